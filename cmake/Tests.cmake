@@ -1,0 +1,19 @@
+# norvane_test(NAME SOURCES ... LIBS ... [LABEL ...]): one test program over the named libraries. Every case of it is
+# a ctest test of its own with a time limit, on the offscreen platform and with a home of its own.
+find_package(GTest REQUIRED)
+include(GoogleTest)
+
+function(norvane_test name)
+    cmake_parse_arguments(ARG "" "TIMEOUT" "SOURCES;LIBS" ${ARGN})
+    if(NOT ARG_TIMEOUT)
+        set(ARG_TIMEOUT 120)
+    endif()
+    add_executable(${name} ${ARG_SOURCES})
+    target_link_libraries(${name} PRIVATE norvane_flags ${ARG_LIBS} GTest::gtest)
+    target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+    target_compile_definitions(${name} PRIVATE
+        NORVANE_SOURCE_DIR="${PROJECT_SOURCE_DIR}" NORVANE_BINARY_DIR="${CMAKE_BINARY_DIR}")
+    gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
+        PROPERTIES TIMEOUT ${ARG_TIMEOUT}
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;TZ=UTC;XDG_CONFIG_HOME=${CMAKE_BINARY_DIR}/test-home")
+endfunction()

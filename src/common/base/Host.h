@@ -1,0 +1,26 @@
+// Door to the machine: clock, computer name, events, launches. Product code asks host(); tests
+// swap members (tests/support/FakeHost.h).
+#pragma once
+
+#include <QDateTime>
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+
+struct Host {
+    std::function<QDateTime()> now;
+    std::function<QString()> computerName; // as the system gives it
+    // Lets pending window events through, user input included.
+    std::function<void()> pumpEvents;
+    // Lets windows repaint but holds user input back (lock waits).
+    std::function<void()> repaint;
+    std::function<void(bool)> setBusy; // the hourglass
+    // Opens a file, folder or web address with its associated program; false when none took it.
+    std::function<bool(const QString &item)> open;
+    // Starts a program with arguments, never through a shell; false when it did not start.
+    std::function<bool(const QString &program, const QStringList &arguments)> launch;
+};
+
+// The one host of the process; the graphical layer fills in pumpEvents, repaint, setBusy and open.
+Host &host();

@@ -1,0 +1,31 @@
+// How a screen asks for another one without knowing it: the main window's operations. frmMain
+// implements them; tests install a recorder (tests/support/RecordingSwitchboard.h).
+#pragma once
+
+#include <QString>
+#include <QtGlobal>
+
+class QWidget;
+
+class Switchboard
+{
+public:
+    virtual ~Switchboard() = default;
+
+    // Record windows: raise the one that is open, else open it.
+    virtual void ShowCustomer(qint32 rowid, bool bEdit) = 0;
+    // Kind 1 issues, 2 product/services: an open customer window reloads that list.
+    virtual void NotifyCustomer(qint32 custid, int what, qint32 id) = 0;
+    virtual void LookupCustomer() = 0;
+    virtual void NewCustomer() = 0;
+    // List editors; the argument is the list's type code.
+    virtual void EditCategory(qint32 type) = 0;
+    virtual void SendMail(const QString &to, const QString &subject, const QString &body) = 0;
+    // Shows a window of ours as a child of the main window.
+    virtual void showChild(QWidget *form) = 0;
+    virtual void showHelp(int topic) = 0;
+};
+
+// The one in force; a do-nothing one until the main window or a test installs its own.
+Switchboard &switchboard();
+void installSwitchboard(Switchboard *board); // null goes back to the do-nothing one

@@ -1,0 +1,183 @@
+// The open database: folder, engine session, logged-in user, and every operation between a screen
+// and a data file. One instance, gDB, serves the program; tests make more to play other stations.
+//
+// Sections follow the source files: clsDBLifecycle.cpp, clsDBRecords.cpp, clsDBIds.cpp,
+// clsDBLogin.cpp, clsDBEditMarks.cpp, clsDBLookups.cpp, clsDBCustomers.cpp, clsDBFiles.cpp.
+#pragma once
+
+#include "db/ListSink.h"
+#include "db/RecColl.h"
+#include "db/Schema.h"
+#include "db/engine/engine.h"
+
+#include <QString>
+#include <QStringList>
+
+class clsDB
+{
+public:
+    using Handle = norvane::engine::Handle;
+
+    clsDB() = default;
+    ~clsDB();
+    clsDB(const clsDB &) = delete;
+    clsDB &operator=(const clsDB &) = delete;
+
+    // ---- lifecycle (clsDBLifecycle.cpp)
+    bool IsOpen() const { return m_bIsOpen; }
+    const QString &DBPath() const { return m_sDBPath; }
+    Handle CBEngine() const { return m_hSession; }
+    bool OpenDB(const QString &dir);
+    // Closes all other windows, then the session; false (and still open) when a window stays.
+    bool CloseDB();
+    bool NewDB(const QString &dir);
+    void OpenLastDB();
+    void OpenDBOnCommandLine(const QString &dir);
+    void CantOpenLastDB(const QString &dir);
+    bool DirContainsValidData(const QString &dir);
+    bool DirIsClean(const QString &dir);
+    void SetLastDBDir(const QString &dir);
+    QString GetLastDBDir() const;
+    void ClearLastDBDir();
+    void CreateAttachDir();
+    QString DBDefaultPath() const;
+    // Without the login box, for programs without a screen: session and login state only.
+    bool OpenUnattended(const QString &dir, const QString &login, const QString &password);
+    // The same with no user at all, for reading.
+    bool OpenForReading(const QString &dir);
+
+    // ---- file set (clsDBFiles.cpp)
+    QString TablePath(schema::Table table) const;
+    QString CategoryTable() const { return TablePath(schema::Table::Category); }
+    QString CustomerTable() const { return TablePath(schema::Table::Customer); }
+    QString Customers2PSTable() const { return TablePath(schema::Table::Customer2PS); }
+    QString LastIDTable() const { return TablePath(schema::Table::LastID); }
+    QString IssuesTable() const { return TablePath(schema::Table::Issues); }
+    QString IssuesActionsTable() const { return TablePath(schema::Table::IssuesActions); }
+    QString IssuesTemplatesTable() const { return TablePath(schema::Table::IssuesTemplates); }
+    QString UserTable() const { return TablePath(schema::Table::User); }
+    QString ReportTable() const { return TablePath(schema::Table::Report); }
+    QString ParamTable() const { return TablePath(schema::Table::Param); }
+    QString ReportColumnsTable() const; // in the program's folder
+    QString MailMergeTable() const;     // in the program's folder
+    QString AttachPath() const;
+    static QString MakePath(const QString &dir, const QString &file);
+    QString DBMSFiles() const;
+    struct FileTriple {
+        QString table, index, indexSource;
+    };
+    QList<FileTriple> DataFilePaths() const;
+
+    // ---- tables
+    // A short-lived table handle, above 0; 0 after a message when it cannot be opened. The caller
+    // closes it with CloseTable.
+    Handle OpenTable(const QString &path);
+    void CloseTable(Handle table);
+
+    // ---- records (clsDBRecords.cpp)
+    // Stores the record; a new one (_rowid below 1) gets its identifier, which replaces _rowid.
+    bool SaveRecord(RecColl &record, bool NoMsg = false, Handle table = 0);
+    bool ReadRecord(RecColl &record, bool NoMsg = false);
+    bool IsUniqueVal(qint32 rowid, const QString &value, const QString &tag, const QString &path);
+    // The found row's value of `field`, -1 when there is no such row. Kind 2 seeks a number.
+    qint32 RecordExists(int kind, const QString &value, const QString &path, const QString &tag,
+                        const QString &field, Handle table = 0);
+    bool RecordExistsNoTag(int kind, const QString &value, const QString &path,
+                           const QString &field, Handle table = 0);
+    bool DeleteRecord(qint32 rowid, const QString &path, Handle table = 0);
+    void DeleteAllRecords(qint32 key, const QString &path, const QString &tag, Handle table = 0);
+    qint32 GetRecCount(const QString &path, const QString &tag);     // rows the tag holds; -1
+    qint32 GetRecCountFast(const QString &path, const QString &tag); // rows in the file; -1
+    RecColl NewCustomerRecColl() const;
+    static bool TorF2Bool(const QString &value);
+    static QString TorF2Str(const QString &value); // "Yes" or "No"
+    // Assigns a value to a field of the current row by kind; not numeric leaves a number alone.
+    void AssignValue(Handle field, const QString &value, schema::FieldKind kind);
+
+    // ---- identifiers and parameters (clsDBIds.cpp)
+    qint32 GetNextID(const QString &tableName); // -1 when locked or not to be opened
+    QString GetParamValue(const QString &name);
+    bool SetParamValue(const QString &name, const QString &value);
+    static QString MakeCustomFieldParamName(const QString &table, const QString &field);
+
+    // ---- login and rights (clsDBLogin.cpp)
+    static constexpr char AdminCode = '1';
+    static constexpr char UserCode = '0';
+    const QString &LoginName() const { return m_sLoginName; }
+    qint32 LoginID() const { return m_nLoginID; }
+    bool IsAdminUser() const { return m_bIsAdmin; }
+    const QString &password() const { return m_sPassword; }
+    void setPassword(const QString &password) { m_sPassword = password; }
+    bool VerifyLogin(const QString &login, const QString &password, qint32 &id, bool &isAdmin,
+                     QString &permissions);
+    bool PromptLogin(const QString &dir);
+    QString GetUserPassword(const QString &login);
+    qint32 GetLoginID(const QString &login);
+    QString GetUsername(qint32 id);
+    QString GetUsername2(qint32 id, Handle table = 0);
+    static QString GetUserTypeStr(const QString &code);
+    static QString GetDefaultPermissionsStr();
+    bool CheckAdmin();
+    bool CheckPerm(int position, bool NoMsg);
+    void NoPermissionMsg();
+    bool Perm_Customers() { return CheckPerm(1, false); }
+    bool Perm_PS() { return CheckPerm(2, false); }
+    bool Perm_Issues() { return CheckPerm(3, false); }
+    bool Perm_Reports() { return CheckPerm(4, false); }
+    bool Perm_ReportsNoMsg() { return CheckPerm(4, true); }
+    bool Perm_ReportsMailEmail() { return CheckPerm(5, false); }
+    bool Perm_ListMgmt() { return CheckPerm(6, false); }
+    bool Perm_DBAdmin() { return CheckPerm(7, false); }
+
+    // ---- edit marks (clsDBEditMarks.cpp)
+    bool GetUnderEditInfo(const QString &path, const QString &tableName, qint32 rowid,
+                          qint32 &userid, QString &station);
+    bool CheckIfRecExists(const QString &path, const QString &tableName, qint32 rowid,
+                          bool NoMsg = false);
+    bool CheckIfRecNotUnderEdit(const QString &path, const QString &tableName, qint32 rowid);
+    void SetEditInfo(const QString &path, const QString &tableName, qint32 rowid, bool Clear);
+
+    // ---- lookup lists (clsDBLookups.cpp)
+    void LoadLV(ListSink &list, const QString &path, const QString &keyField,
+                const QString &textField, qint32 type, bool clear = false);
+    void LoadCbo(ListSink &combo, const QString &path, const QString &keyField,
+                 const QString &textField, const QString &typeField, qint32 type,
+                 bool clear = false, bool addBlank = false, qint32 selectId = 0);
+    void LoadCbo_Users(ListSink &combo, bool clear = false, bool activeOnly = false);
+    // Opens the category table into `table` when it is below 1, and then closes it again.
+    QString GetCategoryDesc(qint32 rowid, Handle table = 0);
+    // The entry's rowid, -1 when there is none.
+    qint32 CategoryExists(const QString &text, qint32 type, Handle table = 0);
+    qint32 AddCategory(const QString &text, qint32 type, Handle table); // new rowid or -1
+    qint32 LookupOrAddCategory(const QString &text, qint32 type, Handle table);
+    // True when no row of the table has the rowid in that field.
+    bool CanDeleteItem(qint32 rowid, const QString &path, const QString &field);
+
+    // ---- customers shown elsewhere (clsDBCustomers.cpp)
+    QString GetCustomername(qint32 custid);
+    QString GetCustomerDetail(qint32 custid);
+    QString GetCustomerEmail(qint32 custid);
+    bool CustomerHasPS(qint32 custid, qint32 psid, Handle table = 0);
+    QString CustomerPS(qint32 custid, Handle table = 0);
+
+private:
+    struct TableCloser;
+    bool startSession(const QString &dir);
+    void endSession();
+    void UpdateFields(const RecColl &record, Handle table, qint32 rowid, bool adding);
+    void UpdateFields_LockInfo(const RecColl &record, Handle table);
+    void UpdateFields_LastEdit(Handle table);
+    void ReadFields(RecColl &record, Handle table);
+
+    Handle m_hSession = 0;
+    bool m_bIsOpen = false;
+    QString m_sDBPath;
+    QString m_sStation; // this computer's name, read at login
+    QString m_sLoginName;
+    QString m_sPassword;
+    QString m_sPermissions;
+    qint32 m_nLoginID = 0;
+    bool m_bIsAdmin = false;
+};
+
+extern clsDB gDB;

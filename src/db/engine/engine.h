@@ -1,0 +1,108 @@
+// The engine's face: sessions, tables, rows, fields, tags and locks as plain functions over
+// integer handles. Handles are above 0; 0 means none. Results are 16-bit codes: 0 success (found,
+// positioned), r4locked when another session holds the record; any other value is a failure or
+// "no row", and lastError() tells more. All text is bytes of code page 1252. One thread.
+#pragma once
+
+#include "db/engine/Status.h"
+
+#include <chrono>
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace norvane::engine
+{
+
+using Handle = std::int32_t;
+using Code = std::int16_t;
+
+inline constexpr Code r4success = 0;
+inline constexpr Code r4found = 1;    // found a row behind the sought key (seek), not the key
+inline constexpr Code r4after = 2;    // sought key not there, positioned behind it
+inline constexpr Code r4eof = 3;      // past the last row
+inline constexpr Code r4noRow = 4;    // not positioned on a row
+inline constexpr Code d4locked = 50;  // locked by another session
+inline constexpr Code r4failure = -1; // see lastError()
+
+class FileSystem;
+
+// ---- sessions
+// A session over the given files (the system's own when null; not owned). 0 when it cannot.
+Handle d4init_v(FileSystem *files = nullptr);
+// Closes what the session holds; 0 on success.
+Code d4initUndo(Handle session);
+void code4accessMode(Handle session, int mode);       // 0 shared, 1 exclusive
+void code4readOnly(Handle session, int flag);         // 1: tables open for reading only
+void code4readLock(Handle session, int flag);         // kept, reading never locks
+void code4lockAttempts(Handle session, int attempts); // -1 without end
+void code4lockEnforce(Handle session, int flag);      // 1: writing needs the row's lock
+void code4lockDelay(Handle session, int hundredths);  // between attempts
+void code4errTagName(Handle session, int flag);       // 1 reports unknown tag names (default)
+Code code4errorCode(Handle session, int value);       // sets, gives the one before
+// What failed last in the session; kind None when nothing did.
+const Error &lastError(Handle session);
+// Called for each engine failure that is not an expected answer; empty switches it off.
+void code4errorHandler(Handle session, std::function<void(const Error &)> handler);
+// Called between polls while waiting for a lock, with the time waited so far.
+void code4waitHandler(Handle session, std::function<void(std::chrono::milliseconds)> handler);
+
+// ---- tables
+Handle d4open(Handle session, std::string_view path); // with its production index and memo file
+Code d4close(Handle table);                           // stores a pending change, drops its locks
+Handle d4field(Handle table, std::string_view name);
+Handle d4fieldAt(Handle table, int position); // 1 to d4numFields
+int d4numFields(Handle table);
+Handle d4tag(Handle table, std::string_view name);
+std::vector<std::string> d4tagNames(Handle table);
+void d4tagSelect(Handle table, Handle tag); // 0: record order
+std::uint32_t d4recCountDo(Handle table);   // rows in the file, deleted ones included
+std::uint32_t d4recNo(Handle table);        // 0 when not on a row
+
+// ---- moves; the selected tag decides, and without a selection the file's first tag for seeks
+// and record order for moves
+Code d4top(Handle table);
+Code d4bottom(Handle table);
+Code d4skip(Handle table, std::int32_t count);
+Code d4go(Handle table, std::uint32_t record);
+Code d4seek(Handle table, std::string_view key);
+Code d4seekDouble(Handle table, double key);
+Code d4seekNext(Handle table, std::string_view key);
+Code d4seekNextDouble(Handle table, double key);
+
+// ---- locks and writes
+Code d4lock(Handle table, std::uint32_t record); // 0 is the append lock
+Code d4unlock(Handle table);                     // stores a pending change first
+Code d4flush(Handle table);
+Code d4delete(Handle table);
+bool d4deleted(Handle table);
+Code d4appendStartVB(Handle table, int useMemoEntries);
+Code d4blank(Handle table);
+Code d4append(Handle table);
+Code d4reindex(Handle table); // REQUIRES: opened exclusively
+
+// ---- fields of the current row
+std::int32_t f4long(Handle field);
+double f4double(Handle field);
+std::uint32_t f4len_v(Handle field);
+const char *f4ptr(Handle field); // bytes in the row buffer, valid until the next move
+char f4type(Handle field);
+int f4decimals(Handle field);
+const char *f4name(Handle field);
+void f4assignLong(Handle field, std::int32_t value);
+void f4assignDouble(Handle field, double value);
+void f4assignNVB(Handle field, std::string_view text, std::uint32_t length);
+std::uint32_t f4memoLenVB(Handle field); // bytes
+const char *f4memoPtr(Handle field);     // null when it cannot be read
+Code f4memoAssignN(Handle field, std::string_view text, std::uint32_t length);
+
+// ---- small helpers
+// An engine date (YYYYMMDD) by picture: "MM", "DD", "YY", "CCYY" or joined ones.
+std::string date4format(std::string_view date, std::string_view picture);
+
+// Findings of a full check of table, index and memo, one line each; empty when sound.
+std::vector<std::string> d4check(Handle table);
+
+} // namespace norvane::engine
