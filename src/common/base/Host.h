@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QDateTime>
+#include <QLocale>
 #include <QString>
 #include <QStringList>
 
@@ -11,6 +12,8 @@
 struct Host {
     std::function<QDateTime()> now;
     std::function<QString()> computerName; // as the system gives it
+    // Regional settings; American English where the system has none.
+    std::function<QLocale()> locale;
     // Lets pending window events through, user input included.
     std::function<void()> pumpEvents;
     // Lets windows repaint but holds user input back (lock waits).

@@ -1,0 +1,11 @@
+// The 8-bit character set of everything stored or exported: code page 1252. The five codes that
+// it leaves open stand for themselves, so that any byte survives the way in and out.
+#pragma once
+
+#include <QByteArray>
+#include <QByteArrayView>
+#include <QString>
+
+// A character without an 8-bit form becomes "?".
+QByteArray toAnsi(const QString &text);
+QString fromAnsi(QByteArrayView bytes);
