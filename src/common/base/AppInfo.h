@@ -6,9 +6,9 @@
 namespace app
 {
 
-QString title();    // "Norvane"
-QString company();  // "Dalvion"
-QString website();  // the maker's web site, without a trailing slash
+QString title();   // "Norvane"
+QString company(); // "Dalvion"
+QString website(); // the maker's web site, without a trailing slash
 int versionMajor();
 int versionMinor();
 int versionRevision();

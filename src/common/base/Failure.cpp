@@ -1,0 +1,30 @@
+#include "common/base/Failure.h"
+
+#include "common/base/AppInfo.h"
+#include "common/base/clsSystem.h"
+
+#include <new>
+
+namespace
+{
+
+constexpr int OutOfMemory = 7;
+constexpr int InternalError = 51;
+
+} // namespace
+
+void reportCurrentException(const char *context)
+{
+    try {
+        throw;
+    } catch (const Failure &failure) {
+        gSys.SetError(failure.number(), failure.source(), failure.description());
+    } catch (const std::bad_alloc &) {
+        gSys.SetError(OutOfMemory, app::title(), QStringLiteral("Out of memory"));
+    } catch (const std::exception &error) {
+        gSys.SetError(InternalError, app::title(), QString::fromLocal8Bit(error.what()));
+    } catch (...) {
+        gSys.SetError(InternalError, app::title(), QStringLiteral("Internal error"));
+    }
+    gSys.ShowError(QLatin1String(context));
+}

@@ -1,0 +1,48 @@
+// clsSystem: what is asked of the machine and its desktop.
+#include "common/base/clsSystem.h"
+
+#include "common/base/AppInfo.h"
+#include "common/base/Host.h"
+
+QString clsSystem::GetLocalComputerName()
+{
+    return host().computerName();
+}
+
+bool clsSystem::ShowFolder(const QString &path)
+{
+    if (host().open(LocalPath(path)))
+        return true;
+    prompts::warn(QLatin1String("Unable to open folder '") + path + u'\'');
+    return false;
+}
+
+bool clsSystem::LaunchFile(const QString &item, const QStringList &parameters)
+{
+    const bool taken = parameters.isEmpty() ? host().open(item) : host().launch(item, parameters);
+    if (!taken) {
+        prompts::warn(QLatin1String("Unable to launch '") + item +
+                      QLatin1String("'! No application may be associated with this file type."));
+    }
+    return taken;
+}
+
+bool clsSystem::GotoWebsite(const QString &address)
+{
+    return LaunchFile(address);
+}
+
+bool clsSystem::GotoDVWebsite()
+{
+    return GotoWebsite(app::website());
+}
+
+void clsSystem::WaitStart()
+{
+    host().setBusy(true);
+}
+
+void clsSystem::WaitEnd()
+{
+    host().setBusy(false);
+}
