@@ -6,6 +6,7 @@
 #include <QSettings>
 
 #include <memory>
+#include <utility>
 
 namespace
 {

@@ -10,5 +10,6 @@ QString GetPrefStr(const QString &name);
 // Numeric text, rounded; anything else gives 0.
 qint32 GetPrefLong(const QString &name);
 
-// Tests: keep preferences in this ini file instead of the user's own; empty goes back.
-void usePreferencesFile(const QString &path);
+// Tests: keep preferences in this ini file instead of the user's own; empty goes back to that.
+// Gives the file used before.
+QString usePreferencesFile(const QString &path);
