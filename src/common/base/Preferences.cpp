@@ -76,7 +76,7 @@ qint32 GetPrefLong(const QString &name)
     return number ? RoundToLong(*number).value_or(0) : 0;
 }
 
-void usePreferencesFile(const QString &path)
+QString usePreferencesFile(const QString &path)
 {
-    preferencesFile() = path;
+    return std::exchange(preferencesFile(), path);
 }
