@@ -20,6 +20,9 @@ public:
     // "frmCustomer": the name UnloadForm goes by.
     QString formName() const;
 
+protected:
+    bool event(QEvent *event) override;
+
 private:
     QString m_tag;
     int m_helpTopic = 0;
@@ -29,7 +32,10 @@ private:
 const QList<FormWindow *> &openForms();
 bool IsFormLoaded(const QString &tag);
 FormWindow *GetFormWithTag(const QString &tag); // null when none
+// Restores the window when it is minimised, in the main window or alone, and gives it the focus.
 void BringFormToTop(const QString &tag);
-// Closes every open window but those with the given tag; each may refuse. False when one stays.
+// Closes every open window but those with the given tag; each may refuse, and the first refusal
+// ends the closing. False when one stays.
 bool UnloadAll(const QString &exceptTag);
+// The same for the windows of one kind.
 bool UnloadForm(const QString &formName);

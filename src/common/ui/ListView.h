@@ -2,10 +2,13 @@
 // A model over plain rows, so that 100,000 rows fill in well under a second.
 #pragma once
 
+#include <QHash>
 #include <QList>
 #include <QString>
 #include <QStringList>
 #include <QTreeView>
+
+#include <vector>
 
 class ListViewModel;
 
@@ -15,10 +18,10 @@ class ListView : public QTreeView
 public:
     struct Column {
         QString title;
-        QString key;           // short name, "N"
-        int width = 120;       // pixels at 96 dpi, a first guess
-        bool hidden = false;   // sorts only
-        bool right = false;    // numbers
+        QString key;         // short name, "N"
+        int width = 120;     // pixels at 96 dpi, a first guess
+        bool hidden = false; // sorts only
+        bool right = false;  // numbers
     };
     struct Row {
         QString key;
@@ -31,12 +34,13 @@ public:
     void setColumns(const QList<Column> &columns);
     QList<Column> columns() const;
 
-    // Rows in the order shown.
+    // Rows in the order shown. Texts beyond the columns are kept but never shown; a sorted list
+    // stays sorted when rows come in.
     void clearItems();
     void addItem(const QString &key, const QStringList &texts);
     void addItems(QList<Row> rows);
     bool removeItem(const QString &key);
-    int itemCount() const;
+    int itemCount() const; // rows that wait in a batch count too
     QString itemKey(int row) const;
     QString itemText(int row, int column) const;
     int rowOfKey(const QString &key) const; // -1 when there is none
@@ -46,10 +50,11 @@ public:
     void endLoad();
 
     void sortBy(int column, Qt::SortOrder order);
-    int sortColumn() const; // -1 when not sorted
+    int sortColumn() const; // the one compared, even when hidden; -1 when not sorted
     Qt::SortOrder sortOrder() const;
     // A click on a heading sorts by this column instead (a hidden date behind a shown one).
     void setSortSubstitute(int column, int sortsBy);
+    int sortSubstitute(int column) const; // the column itself when it has none
 
     // The sentence shown while the list is empty.
     void setEmptyText(const QString &text);
@@ -63,11 +68,18 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
+    void showSortIndicator();
+    int widthFromDesign(int pixels) const;
+
     ListViewModel *m_model;
     QString m_emptyText;
+    std::vector<Row> m_batch;
+    int m_loads = 0; // depth of beginLoad
+    QHash<int, int> m_sortSubstitutes;
 };
 
 // The names the screens use; keys are exact, texts ignore case.
+// Selecting an item ends the selection of all others.
 bool LvIsItemSelected(const ListView *lv);
 QString LvGetSelectedItemText(const ListView *lv); // empty when none
 QString LvGetSelectedItemKey(const ListView *lv);  // empty when none
@@ -77,4 +89,6 @@ bool LvSelectItem(ListView *lv, const QString &key); // and scrolls to it
 bool LvSelectItemByText(ListView *lv, const QString &text);
 bool LvSelectAllItems(ListView *lv, bool selected);
 void LvInvertSelection(ListView *lv);
-void LVSort(ListView *lv, int column); // turns the order round
+// What a click on a heading does: turns the order round, whichever column was sorted before, and
+// sorts by the column or its substitute.
+void LVSort(ListView *lv, int column);

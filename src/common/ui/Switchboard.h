@@ -21,7 +21,7 @@ public:
     // List editors; the argument is the list's type code.
     virtual void EditCategory(qint32 type) = 0;
     virtual void SendMail(const QString &to, const QString &subject, const QString &body) = 0;
-    // Shows a window of ours as a child of the main window.
+    // Shows a window of ours as a child of the main window, which owns it from then on.
     virtual void showChild(QWidget *form) = 0;
     virtual void showHelp(int topic) = 0;
 };

@@ -1,0 +1,146 @@
+#include "common/ui/Controls.h"
+
+#include <QAbstractSpinBox>
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QTextEdit>
+
+namespace
+{
+
+QColor blend(const QColor &base, const QColor &tint, qreal share)
+{
+    const auto mix = [share](int from, int to) { return qRound(from + (to - from) * share); };
+    return QColor(mix(base.red(), tint.red()), mix(base.green(), tint.green()),
+                  mix(base.blue(), tint.blue()));
+}
+
+QColor baseColour(const QWidget *control)
+{
+    return QApplication::palette(control).color(QPalette::Active, QPalette::Base);
+}
+
+bool isDark(const QColor &base)
+{
+    return base.lightness() < 128;
+}
+
+// A disabled box greys its text; what a record holds must stay readable while it is locked.
+void paintField(QWidget *field, bool locked)
+{
+    const QPalette standard = QApplication::palette(field);
+    const QColor text = standard.color(QPalette::Active, QPalette::Text);
+    const QColor back = locked ? readOnlyColour(field) : editableColour(field);
+    QPalette palette;
+    palette.setColor(QPalette::Base, back);
+    palette.setColor(QPalette::Text, text);
+    if (locked) {
+        palette.setColor(QPalette::Button, back); // a pick-only box is drawn as a button
+        palette.setColor(QPalette::ButtonText, text);
+    }
+    field->setPalette(palette);
+}
+
+template <class Box>
+bool lockText(QWidget *control, bool locked)
+{
+    auto *box = qobject_cast<Box *>(control);
+    if (box == nullptr)
+        return false;
+    box->setReadOnly(locked);
+    paintField(box, locked);
+    return true;
+}
+
+void lockControl(QWidget *control, bool locked)
+{
+    if (lockText<QLineEdit>(control, locked) || lockText<QPlainTextEdit>(control, locked) ||
+        lockText<QTextEdit>(control, locked) || lockText<QAbstractSpinBox>(control, locked))
+        return;
+    if (qobject_cast<QComboBox *>(control) != nullptr)
+        paintField(control, locked);
+    control->setEnabled(!locked);
+}
+
+} // namespace
+
+qint32 cboGetItemID(const QComboBox *combo)
+{
+    const int current = combo->currentIndex();
+    // Text typed over an item of a free-text box is no longer that item.
+    if (current < 0 || (combo->isEditable() && combo->currentText() != combo->itemText(current)))
+        return -1;
+    bool ok = false;
+    const qint32 id = combo->itemData(current).toInt(&ok);
+    return ok ? id : -1;
+}
+
+void cboSelectAtID(QComboBox *combo, qint32 id)
+{
+    const int index = combo->findData(id);
+    if (index >= 0)
+        combo->setCurrentIndex(index);
+}
+
+void cboSelectAtIndex(QComboBox *combo, int index)
+{
+    if (index >= 0 && index < combo->count())
+        combo->setCurrentIndex(index);
+}
+
+void cboAddItem(QComboBox *combo, const QString &text, qint32 id)
+{
+    combo->addItem(text, id);
+}
+
+void TxtCtlInsertStr(QPlainTextEdit *box, const QString &text)
+{
+    box->insertPlainText(text);
+    box->ensureCursorVisible();
+}
+
+void CtlSetFocus(QWidget *control)
+{
+    if (control->isVisible())
+        control->setFocus(Qt::OtherFocusReason);
+}
+
+bool CK2TrueFalse(const QAbstractButton *box)
+{
+    const auto *check = qobject_cast<const QCheckBox *>(box);
+    return check != nullptr ? check->checkState() == Qt::Checked : box->isChecked();
+}
+
+QString controlTag(const QWidget *control)
+{
+    return control->property("tag").toString();
+}
+
+void LockControls(QWidget *form, bool locked, const QString &tag)
+{
+    const QList<QWidget *> controls = form->findChildren<QWidget *>();
+    for (QWidget *control : controls)
+        if (controlTag(control) == tag)
+            lockControl(control, locked);
+}
+
+QColor readOnlyColour(const QWidget *control)
+{
+    const QColor yellow(0xFF, 0xFF, 0xC0);
+    const QColor base = baseColour(control);
+    return isDark(base) ? blend(base, yellow, 0.16) : yellow;
+}
+
+QColor editableColour(const QWidget *control)
+{
+    const QColor base = baseColour(control);
+    return isDark(base) ? base : QColor(Qt::white);
+}
+
+bool KeyPressedCtrlE(int key, Qt::KeyboardModifiers modifiers)
+{
+    return key == Qt::Key_E && modifiers.testFlag(Qt::ControlModifier);
+}

@@ -1,0 +1,116 @@
+#include "common/ui/FormWindow.h"
+
+#include <QEvent>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QPointer>
+
+#include <algorithm>
+#include <functional>
+
+namespace
+{
+
+QList<FormWindow *> &registry()
+{
+    static QList<FormWindow *> forms;
+    return forms;
+}
+
+QMdiSubWindow *frameOf(const QWidget *form)
+{
+    return qobject_cast<QMdiSubWindow *>(form->parentWidget());
+}
+
+void bringToTop(FormWindow *form)
+{
+    QMdiSubWindow *frame = frameOf(form);
+    QWidget *window = frame != nullptr ? frame : form->window();
+    if (window->isMinimized() || (frame != nullptr && frame->isShaded()))
+        window->showNormal();
+    window->show();
+    window->raise();
+    if (frame != nullptr && frame->mdiArea() != nullptr)
+        frame->mdiArea()->setActiveSubWindow(frame);
+    else
+        window->activateWindow();
+}
+
+// Closing a form may close or open others, so the walk is over guarded copies. Stops at the
+// first form that refuses.
+bool closeAll(const std::function<bool(const FormWindow *)> &wanted)
+{
+    QList<QPointer<FormWindow>> forms;
+    for (FormWindow *form : openForms())
+        forms.append(form);
+    for (const QPointer<FormWindow> &form : std::as_const(forms))
+        if (form && openForms().contains(form.data()) && wanted(form) && !form->close())
+            return false;
+    return std::none_of(openForms().begin(), openForms().end(), wanted);
+}
+
+} // namespace
+
+FormWindow::FormWindow(QWidget *parent) : QWidget(parent)
+{
+    registry().append(this);
+}
+
+FormWindow::~FormWindow()
+{
+    registry().removeAll(this);
+}
+
+QString FormWindow::formName() const
+{
+    return QString::fromLatin1(metaObject()->className());
+}
+
+// A closed form leaves the registry at once, not when it is deleted some events later: the same
+// record may be opened again in between. One that was only hidden comes back when it is shown.
+bool FormWindow::event(QEvent *event)
+{
+    const bool done = QWidget::event(event);
+    if (event->type() == QEvent::Close && event->isAccepted()) {
+        registry().removeAll(this);
+        if (QMdiSubWindow *frame = frameOf(this))
+            frame->close(); // does nothing when the close came from there
+    } else if (event->type() == QEvent::Show && !registry().contains(this)) {
+        registry().append(this);
+    }
+    return done;
+}
+
+const QList<FormWindow *> &openForms()
+{
+    return registry();
+}
+
+bool IsFormLoaded(const QString &tag)
+{
+    return GetFormWithTag(tag) != nullptr;
+}
+
+FormWindow *GetFormWithTag(const QString &tag)
+{
+    for (FormWindow *form : openForms())
+        if (form->tagText() == tag)
+            return form;
+    return nullptr;
+}
+
+void BringFormToTop(const QString &tag)
+{
+    if (FormWindow *form = GetFormWithTag(tag))
+        bringToTop(form);
+}
+
+bool UnloadAll(const QString &exceptTag)
+{
+    return closeAll([exceptTag](const FormWindow *form) { return form->tagText() != exceptTag; });
+}
+
+bool UnloadForm(const QString &formName)
+{
+    return closeAll([formName](const FormWindow *form) { return form->formName() == formName; });
+}

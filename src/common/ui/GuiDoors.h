@@ -1,0 +1,19 @@
+// The real boxes, file dialogs and windows behind prompts:: and the desktop's side of host().
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+class QWidget;
+
+// Fills prompts::backend(), and pumpEvents, repaint, setBusy and open of host(). Boxes stand over
+// the window in use, else over the main window, which may be null.
+void installGuiDoors(QWidget *mainWindow);
+
+namespace guidoors
+{
+
+// "Label (*.csv)|*.csv|All Files (*.*)|*.*" as the toolkit wants it.
+QStringList nameFilters(const QString &filter);
+
+} // namespace guidoors

@@ -1,0 +1,193 @@
+#include "common/ui/ListView.h"
+
+#include "common/ui/ListViewModel.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QPainter>
+
+#include <algorithm>
+
+ListView::ListView(QWidget *parent) : QTreeView(parent), m_model(new ListViewModel(this))
+{
+    setModel(m_model);
+    setRootIsDecorated(false);
+    setItemsExpandable(false);
+    setExpandsOnDoubleClick(false);
+    setUniformRowHeights(true); // or the view measures every row
+    setAllColumnsShowFocus(true);
+    setAlternatingRowColors(true);
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(ExtendedSelection);
+    setEditTriggers(NoEditTriggers);
+    setTextElideMode(Qt::ElideRight);
+    header()->setSectionsMovable(false);
+    header()->setSectionsClickable(true);
+    header()->setHighlightSections(false);
+
+    connect(header(), &QHeaderView::sectionClicked, this,
+            [this](int column) { LVSort(this, column); });
+    connect(this, &QTreeView::doubleClicked, this,
+            [this](const QModelIndex &index) { Q_EMIT itemActivated(itemKey(index.row())); });
+    connect(selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            [this] { Q_EMIT itemSelectionChanged(); });
+}
+
+ListView::~ListView() = default;
+
+int ListView::widthFromDesign(int pixels) const
+{
+    return pixels * logicalDpiX() / 96;
+}
+
+void ListView::setColumns(const QList<Column> &columns)
+{
+    m_batch.clear();
+    m_model->setColumns(columns);
+    for (int at = 0; at < columns.size(); ++at) {
+        setColumnHidden(at, columns[at].hidden);
+        if (!columns[at].hidden)
+            setColumnWidth(at, widthFromDesign(columns[at].width));
+    }
+    showSortIndicator();
+}
+
+QList<ListView::Column> ListView::columns() const
+{
+    QList<Column> result = m_model->columns();
+    for (int at = 0; at < result.size(); ++at)
+        if (!result[at].hidden)
+            result[at].width = columnWidth(at) * 96 / logicalDpiX();
+    return result;
+}
+
+void ListView::clearItems()
+{
+    m_batch.clear();
+    m_model->clear();
+    viewport()->update();
+}
+
+void ListView::addItem(const QString &key, const QStringList &texts)
+{
+    if (m_loads > 0)
+        m_batch.push_back({key, texts});
+    else
+        m_model->insert({key, texts});
+}
+
+void ListView::addItems(QList<Row> rows)
+{
+    if (m_loads > 0)
+        m_batch.insert(m_batch.end(), rows.begin(), rows.end());
+    else
+        m_model->append({rows.begin(), rows.end()});
+}
+
+bool ListView::removeItem(const QString &key)
+{
+    const int row = m_model->rowOfKey(key);
+    if (row < 0)
+        return false;
+    m_model->removeAt(row);
+    return true;
+}
+
+int ListView::itemCount() const
+{
+    return m_model->count() + static_cast<int>(m_batch.size());
+}
+
+QString ListView::itemKey(int row) const
+{
+    return row >= 0 && row < m_model->count() ? m_model->row(row).key : QString();
+}
+
+QString ListView::itemText(int row, int column) const
+{
+    return row >= 0 && row < m_model->count() ? m_model->row(row).texts.value(column) : QString();
+}
+
+int ListView::rowOfKey(const QString &key) const
+{
+    return m_model->rowOfKey(key);
+}
+
+void ListView::beginLoad()
+{
+    if (m_loads++ == 0)
+        setUpdatesEnabled(false);
+}
+
+void ListView::endLoad()
+{
+    if (m_loads == 0 || --m_loads > 0)
+        return;
+    m_model->append(std::exchange(m_batch, {}));
+    setUpdatesEnabled(true);
+}
+
+void ListView::sortBy(int column, Qt::SortOrder order)
+{
+    m_model->sort(column, order);
+    showSortIndicator();
+}
+
+int ListView::sortColumn() const
+{
+    return m_model->sortColumn();
+}
+
+Qt::SortOrder ListView::sortOrder() const
+{
+    return m_model->sortOrder();
+}
+
+void ListView::setSortSubstitute(int column, int sortsBy)
+{
+    m_sortSubstitutes.insert(column, sortsBy);
+}
+
+int ListView::sortSubstitute(int column) const
+{
+    return m_sortSubstitutes.value(column, column);
+}
+
+// A hidden column shows its arrow in the heading that stands for it.
+void ListView::showSortIndicator()
+{
+    int column = sortColumn();
+    if (column >= 0 && isColumnHidden(column))
+        column = m_sortSubstitutes.key(column, -1);
+    header()->setSortIndicatorShown(column >= 0);
+    header()->setSortIndicator(column, sortOrder());
+}
+
+void ListView::setEmptyText(const QString &text)
+{
+    m_emptyText = text;
+    viewport()->update();
+}
+
+void ListView::paintEvent(QPaintEvent *event)
+{
+    QTreeView::paintEvent(event);
+    if (m_model->count() > 0 || m_emptyText.isEmpty())
+        return;
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    const int margin = fontMetrics().height();
+    painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),
+                     Qt::AlignCenter | Qt::TextWordWrap, m_emptyText);
+}
+
+void ListView::keyPressEvent(QKeyEvent *event)
+{
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (!enter)
+        QTreeView::keyPressEvent(event);
+    else if (LvIsItemSelected(this))
+        Q_EMIT itemActivated(LvGetSelectedItemKey(this));
+    else
+        event->ignore(); // the form's default button may have it
+}
