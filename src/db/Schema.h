@@ -6,6 +6,7 @@
 #include "db/engine/RowLayout.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <vector>
 
@@ -13,15 +14,23 @@ namespace schema
 {
 
 enum class Table {
-    Category, Customer, Customer2PS, LastID, Issues, IssuesActions, IssuesTemplates, User, Report,
+    Category,
+    Customer,
+    Customer2PS,
+    LastID,
+    Issues,
+    IssuesActions,
+    IssuesTemplates,
+    User,
+    Report,
     Param
 };
 
 struct TableInfo {
     Table table;
-    QString baseName;  // "nvncust"
-    bool hasMemo;      // three files, else two
-    bool repairable;   // copied from the templates when missing from a folder
+    QString baseName; // "nvncust"
+    bool hasMemo;     // three files, else two
+    bool repairable;  // copied from the templates when missing from a folder
     norvane::engine::TableDef def;
 
     QString dataFile() const { return baseName + u".dbf"; }

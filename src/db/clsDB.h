@@ -1,17 +1,21 @@
 // The open database: folder, engine session, logged-in user, and every operation between a screen
 // and a data file. One instance, gDB, serves the program; tests make more to play other stations.
 //
-// Sections follow the source files: clsDBLifecycle.cpp, clsDBRecords.cpp, clsDBIds.cpp,
-// clsDBLogin.cpp, clsDBEditMarks.cpp, clsDBLookups.cpp, clsDBCustomers.cpp, clsDBFiles.cpp.
+// Sections follow the source files: clsDBLifecycle.cpp, clsDBFiles.cpp, clsDBTables.cpp,
+// clsDBRecords.cpp, clsDBRows.cpp, clsDBIds.cpp, clsDBLogin.cpp, clsDBEditMarks.cpp,
+// clsDBLookups.cpp, clsDBCustomers.cpp.
 #pragma once
 
+#include "db/engine/engine.h"
+#include "db/EngineFailures.h"
 #include "db/ListSink.h"
 #include "db/RecColl.h"
 #include "db/Schema.h"
-#include "db/engine/engine.h"
 
 #include <QString>
 #include <QStringList>
+
+#include <vector>
 
 class clsDB
 {
@@ -45,6 +49,8 @@ public:
     bool OpenUnattended(const QString &dir, const QString &login, const QString &password);
     // The same with no user at all, for reading.
     bool OpenForReading(const QString &dir);
+    // Tests: the next session works on these files (not owned); null: the system's own.
+    void useFiles(norvane::engine::FileSystem *files) { m_files = files; }
 
     // ---- file set (clsDBFiles.cpp)
     QString TablePath(schema::Table table) const;
@@ -68,9 +74,10 @@ public:
     };
     QList<FileTriple> DataFilePaths() const;
 
-    // ---- tables
+    // ---- tables (clsDBTables.cpp)
     // A short-lived table handle, above 0; 0 after a message when it cannot be opened. The caller
-    // closes it with CloseTable.
+    // closes it with CloseTable, which also tells what the engine could not do in between. A
+    // folder that refuses writing gives a table for reading.
     Handle OpenTable(const QString &path);
     void CloseTable(Handle table);
 
@@ -78,6 +85,11 @@ public:
     // Stores the record; a new one (_rowid below 1) gets its identifier, which replaces _rowid.
     bool SaveRecord(RecColl &record, bool NoMsg = false, Handle table = 0);
     bool ReadRecord(RecColl &record, bool NoMsg = false);
+    RecColl NewCustomerRecColl() const;
+    // Assigns a value to a field of the current row by kind; not numeric leaves a number alone.
+    static void AssignValue(Handle field, const QString &value, schema::FieldKind kind);
+
+    // ---- rows (clsDBRows.cpp)
     bool IsUniqueVal(qint32 rowid, const QString &value, const QString &tag, const QString &path);
     // The found row's value of `field`, -1 when there is no such row. Kind 2 seeks a number.
     qint32 RecordExists(int kind, const QString &value, const QString &path, const QString &tag,
@@ -88,11 +100,8 @@ public:
     void DeleteAllRecords(qint32 key, const QString &path, const QString &tag, Handle table = 0);
     qint32 GetRecCount(const QString &path, const QString &tag);     // rows the tag holds; -1
     qint32 GetRecCountFast(const QString &path, const QString &tag); // rows in the file; -1
-    RecColl NewCustomerRecColl() const;
     static bool TorF2Bool(const QString &value);
     static QString TorF2Str(const QString &value); // "Yes" or "No"
-    // Assigns a value to a field of the current row by kind; not numeric leaves a number alone.
-    void AssignValue(Handle field, const QString &value, schema::FieldKind kind);
 
     // ---- identifiers and parameters (clsDBIds.cpp)
     qint32 GetNextID(const QString &tableName); // -1 when locked or not to be opened
@@ -153,26 +162,43 @@ public:
     // True when no row of the table has the rowid in that field.
     bool CanDeleteItem(qint32 rowid, const QString &path, const QString &field);
 
-    // ---- customers shown elsewhere (clsDBCustomers.cpp)
-    QString GetCustomername(qint32 custid);
-    QString GetCustomerDetail(qint32 custid);
-    QString GetCustomerEmail(qint32 custid);
-    bool CustomerHasPS(qint32 custid, qint32 psid, Handle table = 0);
-    QString CustomerPS(qint32 custid, Handle table = 0);
+    // ---- customers shown elsewhere (clsDBCustomers.cpp). A table below 1 is opened and closed
+    // here; callers with many rows pass theirs.
+    // Company and full name, in the order that the database asks for.
+    QString GetCustomername(qint32 custid, Handle customers = 0);
+    // One line: name, place and telephone.
+    QString GetCustomerDetail(qint32 custid, Handle customers = 0, Handle categories = 0);
+    QString GetCustomerEmail(qint32 custid, Handle customers = 0);
+    bool CustomerHasPS(qint32 custid, qint32 psid, Handle subscriptions = 0);
+    // Descriptions of the products and services, joined by ";".
+    QString CustomerPS(qint32 custid, Handle subscriptions = 0, Handle categories = 0);
 
 private:
-    struct TableCloser;
+    struct Write;
+
     bool startSession(const QString &dir);
     void endSession();
-    void UpdateFields(const RecColl &record, Handle table, qint32 rowid, bool adding);
-    void UpdateFields_LockInfo(const RecColl &record, Handle table);
-    void UpdateFields_LastEdit(Handle table);
+    void clearLogin();
+    bool acceptLogin(const QString &login, const QString &password);
+    QStringList missingFiles(const QString &dir, bool repair) const;
+    QString openingHelp() const;
+    bool copyTemplate(const QString &templateName, const QString &dir, const QString &name) const;
+
+    bool updateRow(const RecColl &record, Handle table, bool NoMsg);
+    bool addRow(RecColl &record, Handle table);
+    static void UpdateFields(const std::vector<Write> &writes);
+    std::vector<Write> fieldWrites(const RecColl &record, Handle table, bool adding) const;
+    void addLockInfo(std::vector<Write> &writes, const RecColl &record, Handle table) const;
+    void addLastEdit(std::vector<Write> &writes, Handle table) const;
     void ReadFields(RecColl &record, Handle table);
 
     Handle m_hSession = 0;
+    int m_openTables = 0;
+    EngineFailures m_failures;
+    norvane::engine::FileSystem *m_files = nullptr;
     bool m_bIsOpen = false;
     QString m_sDBPath;
-    QString m_sStation; // this computer's name, read at login
+    QString m_sStation; // this computer's name, read when the session starts
     QString m_sLoginName;
     QString m_sPassword;
     QString m_sPermissions;

@@ -1,0 +1,91 @@
+#include "db/EngineFailures.h"
+
+#include "common/base/Prompts.h"
+
+#include <utility>
+
+using norvane::engine::Error;
+using norvane::engine::ErrorKind;
+
+namespace
+{
+
+QString fileName(const Error &error)
+{
+    return QString::fromStdString(error.file);
+}
+
+QString damageText(const Error &error)
+{
+    const QString file = fileName(error);
+    QString text = QStringLiteral("The file '%1' is damaged").arg(file);
+    if (error.place >= 0)
+        text += QStringLiteral(" (at %1)").arg(error.place);
+    text += u".\n\nPlease make a copy of the whole data folder first. ";
+    if (file.endsWith(u".cdx", Qt::CaseInsensitive)) {
+        text += u"Then choose Database Maintenance to re-index this file. Your data is not in it "
+                u"and is not lost.";
+    } else {
+        text += u"Then choose Database Maintenance to re-index the table, or restore the data "
+                u"folder from your latest backup.";
+    }
+    return text;
+}
+
+} // namespace
+
+void EngineFailures::note(const Error &error)
+{
+    if (!m_first && error.kind != ErrorKind::Locked)
+        m_first = error;
+}
+
+void EngineFailures::show()
+{
+    const Error error = std::exchange(m_first, {});
+    if (error)
+        prompts::critical(engineFailureText(error));
+}
+
+QString engineFailureText(const Error &error)
+{
+    const QString file = fileName(error);
+    switch (error.kind) {
+    case ErrorKind::NotFound:
+        return QStringLiteral("'%1' does not have what was asked for: %2.")
+            .arg(file, QString::fromStdString(error.detail));
+    case ErrorKind::Locked:
+        return QStringLiteral("The file '%1' is in use by another workstation. Please try again "
+                              "in a moment.")
+            .arg(file);
+    case ErrorKind::ReadOnly:
+        return QStringLiteral("The file '%1' cannot be changed: it or its folder is read-only for "
+                              "you. Please ask your administrator for the right to change files "
+                              "in the data folder.")
+            .arg(file);
+    case ErrorKind::Damaged:
+        return damageText(error);
+    case ErrorKind::Refused:
+        return QStringLiteral("The file '%1' holds something this program does not work with: %2.")
+            .arg(file, QString::fromStdString(error.detail));
+    case ErrorKind::NoSpace:
+        return QStringLiteral("The disk that holds '%1' is full. Nothing was saved. Please make "
+                              "room and save again.")
+            .arg(file);
+    case ErrorKind::TooLarge:
+        return QStringLiteral("The file '%1' has reached the largest size it can have. Nothing "
+                              "was saved.")
+            .arg(file);
+    case ErrorKind::Gone:
+        return QStringLiteral("The file '%1' cannot be reached any more. If the data folder is on "
+                              "another computer, please verify that computer is up and running, "
+                              "and then try again.")
+            .arg(file);
+    case ErrorKind::None:
+    case ErrorKind::Misuse:
+    case ErrorKind::Io:
+        break;
+    }
+    return QStringLiteral("The file '%1' could not be read or written: %2.")
+        .arg(file, QString::fromStdString(error.detail));
+}

@@ -1,0 +1,23 @@
+// What the engine could not do, kept while tables are in use and told in plain words once they are
+// closed: never from the midst of an engine call, and once however many calls failed.
+#pragma once
+
+#include "db/engine/Status.h"
+
+#include <QString>
+
+class EngineFailures
+{
+public:
+    // Keeps the first failure; a lock held elsewhere is an answer and not a failure.
+    void note(const norvane::engine::Error &error);
+    // Tells the kept failure, if any, in a critical box and forgets it.
+    void show();
+    void clear() { m_first = {}; }
+
+private:
+    norvane::engine::Error m_first;
+};
+
+// One or two sentences: what is wrong with which file, and what to do about it.
+QString engineFailureText(const norvane::engine::Error &error);

@@ -1,0 +1,7 @@
+#include "db/Screens.h"
+
+Screens &screens()
+{
+    static Screens instance;
+    return instance;
+}

@@ -1,0 +1,108 @@
+// Customers as other screens and reports name them.
+#include "db/clsDB.h"
+
+#include "common/base/clsSystem.h"
+#include "common/base/Failure.h"
+#include "db/TableUse.h"
+
+namespace
+{
+
+const QString RowidTag = QStringLiteral("rowid");
+const QString CustomerTag = QStringLiteral("custid");
+const QString ProductField = QStringLiteral("psid");
+
+QString fullName(const TableUse &customers)
+{
+    return clsSystem::MakeFullName(customers.text(QStringLiteral("firstname")),
+                                   customers.text(QStringLiteral("lastname")));
+}
+
+// "Company (Last, First)", or whichever of the two there is.
+QString companyAndName(const TableUse &customers)
+{
+    const QString company = customers.text(QStringLiteral("company"));
+    const QString name = fullName(customers);
+    if (company.isEmpty())
+        return name;
+    return name.isEmpty() ? company : QString(company % u" (" % name % u')');
+}
+
+} // namespace
+
+QString clsDB::GetCustomername(qint32 custid, Handle customers)
+{
+    return guarded("clsDB_GetCustomername", QString(), [&] {
+        TableUse rows(*this, CustomerTable(), customers);
+        if (!rows)
+            return QString();
+        rows.select(RowidTag);
+        if (!rows.seek(custid))
+            return QString();
+        const bool nameAlone = GetParamValue(QStringLiteral("CUSTOMERNAME_DISPLAY")) == u"1";
+        return nameAlone ? fullName(rows) : companyAndName(rows);
+    });
+}
+
+QString clsDB::GetCustomerDetail(qint32 custid, Handle customers, Handle categories)
+{
+    return guarded("clsDB_GetCustomerDetail", QString(), [&] {
+        TableUse rows(*this, CustomerTable(), customers);
+        if (!rows)
+            return QString();
+        rows.select(RowidTag);
+        if (!rows.seek(custid))
+            return QString();
+        QStringList parts{companyAndName(rows), rows.text(QStringLiteral("city"))};
+        const qint32 state = rows.number(QStringLiteral("state"));
+        if (state > 0)
+            parts.append(GetCategoryDesc(state, categories));
+        parts.append(rows.text(QStringLiteral("workphone")));
+        parts.removeAll(QString());
+        return parts.join(u", ");
+    });
+}
+
+QString clsDB::GetCustomerEmail(qint32 custid, Handle customers)
+{
+    return guarded("clsDB_GetCustomerEmail", QString(), [&] {
+        TableUse rows(*this, CustomerTable(), customers);
+        if (!rows)
+            return QString();
+        rows.select(RowidTag);
+        if (!rows.seek(custid))
+            return QString();
+        const QString address = rows.text(QStringLiteral("emailname"));
+        return address.isEmpty() ? rows.text(QStringLiteral("emailname2")) : address;
+    });
+}
+
+bool clsDB::CustomerHasPS(qint32 custid, qint32 psid, Handle subscriptions)
+{
+    return guarded("clsDB_CustomerHasPS", false, [&] {
+        TableUse rows(*this, Customers2PSTable(), subscriptions);
+        if (!rows)
+            return false;
+        rows.select(CustomerTag);
+        for (bool found = rows.seek(custid); found; found = rows.seekNext(custid)) {
+            if (rows.number(ProductField) == psid)
+                return true;
+        }
+        return false;
+    });
+}
+
+QString clsDB::CustomerPS(qint32 custid, Handle subscriptions, Handle categories)
+{
+    return guarded("clsDB_CustomerPS", QString(), [&] {
+        TableUse rows(*this, Customers2PSTable(), subscriptions);
+        TableUse items(*this, CategoryTable(), categories);
+        if (!rows || !items)
+            return QString();
+        QStringList names;
+        rows.select(CustomerTag);
+        for (bool found = rows.seek(custid); found; found = rows.seekNext(custid))
+            names.append(GetCategoryDesc(rows.number(ProductField), items.handle()));
+        return names.join(u';');
+    });
+}

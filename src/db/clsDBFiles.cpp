@@ -1,0 +1,242 @@
+// The files of a database: their paths, and what a folder must or must not hold of them.
+#include "db/clsDB.h"
+
+#include "common/base/AppInfo.h"
+#include "common/base/clsSystem.h"
+#include "common/base/Failure.h"
+#include "common/base/Preferences.h"
+#include "common/base/Prompts.h"
+
+#include <QDir>
+#include <QFile>
+#include <QStandardPaths>
+
+namespace
+{
+
+const QString AttachDir = QStringLiteral("nvnattach");
+const QString LastDBPref = QStringLiteral("db");
+constexpr int PathAccess = 75;
+
+// The file's path as it stands in the folder when only letter case differs; empty when there is
+// no such file.
+QString existingFile(const QString &dir, const QString &name)
+{
+    const QString path = clsDB::MakePath(clsSystem::LocalPath(dir), name);
+    if (QFile::exists(path))
+        return path;
+    const QDir folder(clsSystem::LocalPath(dir));
+    for (const QString &entry : folder.entryList(QDir::Files | QDir::Hidden)) {
+        if (entry.compare(name, Qt::CaseInsensitive) == 0)
+            return folder.filePath(entry);
+    }
+    return {};
+}
+
+bool fileMissing(const QString &dir, const QString &name)
+{
+    return existingFile(dir, name).isEmpty();
+}
+
+} // namespace
+
+QString clsDB::MakePath(const QString &dir, const QString &file)
+{
+    if (dir.isEmpty() || dir.endsWith(u'/') || dir.endsWith(u'\\'))
+        return dir % file;
+    return dir % QDir::separator() % file;
+}
+
+QString clsDB::TablePath(schema::Table which) const
+{
+    return MakePath(m_sDBPath, schema::table(which).dataFile());
+}
+
+QString clsDB::ReportColumnsTable() const
+{
+    return MakePath(app::programFolder(), QStringLiteral("nvnrepcols.dbf"));
+}
+
+QString clsDB::MailMergeTable() const
+{
+    return MakePath(app::programFolder(), QStringLiteral("nvnmm.db_"));
+}
+
+QString clsDB::AttachPath() const
+{
+    return MakePath(m_sDBPath, AttachDir);
+}
+
+QString clsDB::DBMSFiles() const
+{
+    QStringList files;
+    for (const schema::TableInfo &table : schema::tables())
+        files += table.files();
+    return app::title() % u" database consists of the following " % QString::number(files.size()) %
+           u" files. All these files must exist together in a directory before a database can be "
+           u"opened. All these files must be BACKed up together as a unit and if needed, RESTOREd "
+           u"together as a unit\n\n" %
+           files.join(u'\n') %
+           u"\n\nNOTE: The attachments of your records are stored in the subdirectory '" %
+           AttachDir %
+           u"' under your Norvane Data directory. Therefore, you will also need to back up all "
+           u"directories and files under " %
+           AttachDir;
+}
+
+QList<clsDB::FileTriple> clsDB::DataFilePaths() const
+{
+    QList<FileTriple> all;
+    for (const schema::TableInfo &table : schema::tables()) {
+        all.append({MakePath(m_sDBPath, table.dataFile()), MakePath(m_sDBPath, table.indexFile()),
+                    MakePath(app::programFolder(), table.templateFiles().at(1))});
+    }
+    return all;
+}
+
+QString clsDB::openingHelp() const
+{
+    return QStringLiteral("If you have not previously created %1 database, please choose File, New "
+                          "Database... menu or if you have moved the %1 database files to another "
+                          "location choose File, Open Database... menu and select the directory "
+                          "that contains these files.")
+        .arg(app::title());
+}
+
+bool clsDB::copyTemplate(const QString &templateName, const QString &dir, const QString &name) const
+{
+    const QString target = MakePath(clsSystem::LocalPath(dir), name);
+    if (!clsSystem::FileCopyFn(MakePath(app::programFolder(), templateName), target))
+        return false;
+    // Templates may be installed read-only; the database is not.
+    QFile file(target);
+    return file.setPermissions(file.permissions() | QFile::WriteOwner);
+}
+
+// One name a line. The newer tables are copied from the templates when only they are missing, so a
+// database from before their time is upgraded on opening.
+QStringList clsDB::missingFiles(const QString &dir, bool repair) const
+{
+    QStringList missing;
+    for (const schema::TableInfo &table : schema::tables()) {
+        for (const QString &name : table.files()) {
+            if (!table.repairable && fileMissing(dir, name))
+                missing.append(name);
+        }
+    }
+    if (!missing.isEmpty() || !repair)
+        return missing;
+    for (const schema::TableInfo &table : schema::tables()) {
+        const QStringList names = table.files();
+        for (qsizetype i = 0; table.repairable && i < names.size(); ++i) {
+            if (fileMissing(dir, names.at(i)) &&
+                !copyTemplate(table.templateFiles().at(i), dir, names.at(i)))
+                missing.append(names.at(i));
+        }
+    }
+    return missing;
+}
+
+bool clsDB::DirContainsValidData(const QString &dir)
+{
+    return guarded("clsDB_DirContainsValidData", false, [&] {
+        const QStringList missing = missingFiles(dir, true);
+        if (missing.isEmpty())
+            return true;
+        clsSystem::ShowMsg(
+            QString(u"OPEN FAILED!\nThe following data files are missing from the directory '" %
+                    dir % u"':\n" % missing.join(u'\n') % u"\n\n" % openingHelp() % u"\n\n" %
+                    DBMSFiles()),
+            prompts::Kind::Critical);
+        return false;
+    });
+}
+
+bool clsDB::DirIsClean(const QString &dir)
+{
+    return guarded("clsDB_DirIsClean", false, [&] {
+        QStringList present;
+        for (const schema::TableInfo &table : schema::tables()) {
+            for (const QString &name : table.files()) {
+                if (!fileMissing(dir, name))
+                    present.append(name);
+            }
+        }
+        if (present.isEmpty())
+            return true;
+        clsSystem::ShowMsg(
+            QString(u"NEW DATABASE CREATION FAILED!\nThe following data files already exist in "
+                    u"the directory '" %
+                    dir % u"':\n" % present.join(u'\n') %
+                    u"\nPlease select a directory that does not already contain " % app::title() %
+                    u" database or choose File, Open Database... menu to open an existing "
+                    u"database."),
+            prompts::Kind::Critical);
+        return false;
+    });
+}
+
+bool clsDB::NewDB(const QString &dir)
+{
+    if (!DirIsClean(dir))
+        return false;
+    using schema::Table;
+    static constexpr Table order[] = {
+        Table::Category, Table::Customer,      Table::Customer2PS,     Table::LastID,
+        Table::Issues,   Table::IssuesActions, Table::IssuesTemplates, Table::User,
+        Table::Report,   Table::Param};
+    const bool created = guarded("clsDB_NewDB", false, [&] {
+        for (const Table which : order) {
+            const schema::TableInfo &table = schema::table(which);
+            const QStringList names = table.files();
+            for (qsizetype i = 0; i < names.size(); ++i) {
+                if (!copyTemplate(table.templateFiles().at(i), dir, names.at(i))) {
+                    throw Failure(PathAccess, app::title(),
+                                  QStringLiteral("The file '%1' could not be created.")
+                                      .arg(MakePath(dir, names.at(i))));
+                }
+            }
+        }
+        return true;
+    });
+    if (!created) {
+        prompts::inform(
+            QStringLiteral("Please try re-installing %1 to resolve this issue.").arg(app::title()));
+    }
+    return created;
+}
+
+void clsDB::CreateAttachDir()
+{
+    const QString path = AttachPath();
+    if (!clsSystem::DirExists(path) && !clsSystem::CreateDir(path)) {
+        prompts::warn(
+            QStringLiteral("Unable to create subdirectory for attachments: '%1'").arg(path));
+    }
+}
+
+QString clsDB::DBDefaultPath() const
+{
+#ifdef Q_OS_WIN
+    return QStringLiteral("C:\\NorvaneData");
+#else
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    const bool usable = !documents.isEmpty() && clsSystem::DirExists(documents);
+    return MakePath(usable ? documents : QDir::homePath(), QStringLiteral("NorvaneData"));
+#endif
+}
+
+void clsDB::SetLastDBDir(const QString &dir)
+{
+    SetPrefStr(LastDBPref, dir);
+}
+
+QString clsDB::GetLastDBDir() const
+{
+    return GetPrefStr(LastDBPref);
+}
+
+void clsDB::ClearLastDBDir()
+{
+    SetPrefStr(LastDBPref, QString());
+}

@@ -1,0 +1,126 @@
+// What all stations of a database count and set together: identifiers and named parameters.
+#include "db/clsDB.h"
+
+#include "common/base/clsSystem.h"
+#include "common/base/Failure.h"
+#include "common/base/Prompts.h"
+#include "db/FieldText.h"
+#include "db/TableUse.h"
+
+using namespace norvane::engine;
+
+namespace
+{
+
+constexpr qint32 FirstID = 1000;
+constexpr qint32 Locked = -1;
+const QString CounterName = QStringLiteral("tblname");
+const QString ParamName = QStringLiteral("sid");
+
+// Takes the next value of the counter that `rows` stands on.
+qint32 takeNext(TableUse &rows)
+{
+    const RowLock lock(rows.handle());
+    if (lock.heldElsewhere())
+        return Locked;
+    // Another station may have counted on while this one waited for the lock.
+    if (d4go(rows.handle(), d4recNo(rows.handle())) != r4success)
+        return 0;
+    const Handle counter = rows.field(QStringLiteral("lastid"));
+    const qint32 taken = f4long(counter);
+    qint32 next = taken;
+    clsSystem::IncL(next);
+    f4assignLong(counter, next);
+    return d4flush(rows.handle()) == r4success ? taken : 0;
+}
+
+// Starts a counter. The append lock is taken before looking again, so that of two stations that
+// both found no counter only one starts it.
+qint32 startCounter(TableUse &rows, const QString &name)
+{
+    {
+        const RowLock appending(rows.handle(), 0);
+        if (appending.heldElsewhere())
+            return Locked;
+        if (!rows.seekText(name, CounterName)) {
+            d4appendStartVB(rows.handle(), 0);
+            d4blank(rows.handle());
+            f4assignLong(rows.field(QStringLiteral("lastid")), FirstID + 1);
+            AssignText(rows.field(CounterName), name);
+            return d4append(rows.handle()) == r4success && d4flush(rows.handle()) == r4success
+                       ? FirstID
+                       : 0;
+        }
+    }
+    return takeNext(rows);
+}
+
+} // namespace
+
+qint32 clsDB::GetNextID(const QString &tableName)
+{
+    return guarded("clsDB_GetNextID", -1, [&] {
+        qint32 taken = -1;
+        {
+            TableUse rows(*this, LastIDTable());
+            if (!rows)
+                return -1;
+            // Before any tag is selected: the first tag of the index is the one by name.
+            const bool found = rows.seekText(tableName, CounterName);
+            d4tagSelect(rows.handle(), d4tag(rows.handle(), "TBLNAME"));
+            taken = found ? takeNext(rows) : startCounter(rows, tableName);
+        }
+        if (taken == Locked)
+            prompts::critical(QStringLiteral("RECORD LOCKED: Unable to get next id (locked)!"));
+        return taken > 0 ? taken : -1;
+    });
+}
+
+QString clsDB::GetParamValue(const QString &name)
+{
+    return guarded("clsDB_GetParamValue", QString(), [&] {
+        TableUse rows(*this, ParamTable());
+        if (!rows)
+            return QString();
+        rows.select(ParamName);
+        return rows.seekText(name.toUpper(), ParamName)
+                   ? clsSystem::Trim(MemoText(rows.field(QStringLiteral("value"))))
+                   : QString();
+    });
+}
+
+bool clsDB::SetParamValue(const QString &name, const QString &value)
+{
+    return guarded("clsDB_SetParamValue", false, [&] {
+        bool stored = false;
+        {
+            TableUse rows(*this, ParamTable());
+            if (!rows)
+                return false;
+            const Handle valueField = rows.field(QStringLiteral("value"));
+            rows.select(ParamName);
+            if (!rows.seekText(name.toUpper(), ParamName)) {
+                d4appendStartVB(rows.handle(), 0);
+                d4blank(rows.handle());
+                AssignValue(rows.field(ParamName), name.toUpper(), schema::FieldKind::Text);
+                AssignValue(valueField, value, schema::FieldKind::Memo);
+                stored =
+                    d4append(rows.handle()) == r4success && d4flush(rows.handle()) == r4success;
+                d4unlock(rows.handle());
+                return stored;
+            }
+            const RowLock lock(rows.handle());
+            if (!lock.heldElsewhere()) {
+                AssignValue(valueField, value, schema::FieldKind::Memo);
+                return d4flush(rows.handle()) == r4success;
+            }
+        }
+        prompts::critical(QStringLiteral("RECORD LOCKED: Unable to update record!"));
+        return stored;
+    });
+}
+
+QString clsDB::MakeCustomFieldParamName(const QString &table, const QString &field)
+{
+    return table % u'_' % field;
+}

@@ -1,0 +1,192 @@
+// Lookup lists: loading them into controls, and their entries in the category table.
+#include "db/clsDB.h"
+
+#include "common/base/clsSystem.h"
+#include "common/base/Failure.h"
+#include "common/base/Host.h"
+#include "db/FieldText.h"
+#include "db/TableUse.h"
+
+using namespace norvane::engine;
+
+namespace
+{
+
+const QString RowidField = QStringLiteral("rowid");
+const QString TypeField = QStringLiteral("type");
+const QString DescField = QStringLiteral("desc");
+constexpr qint32 NoEntry = -1;
+
+struct Hourglass {
+    Hourglass() { clsSystem::WaitStart(); }
+    ~Hourglass() { clsSystem::WaitEnd(); }
+    Hourglass(const Hourglass &) = delete;
+    Hourglass &operator=(const Hourglass &) = delete;
+};
+
+// Drawing is frozen while it lives.
+class Loading
+{
+public:
+    explicit Loading(ListSink &list) : m_list(list) { m_list.beginLoad(); }
+    ~Loading() { m_list.endLoad(); }
+    Loading(const Loading &) = delete;
+    Loading &operator=(const Loading &) = delete;
+
+private:
+    ListSink &m_list;
+};
+
+// The entry of that type among those with that text; -1 when there is none.
+qint32 findEntry(TableUse &rows, const QString &text, qint32 type)
+{
+    rows.select(DescField);
+    for (bool found = rows.seekText(text, DescField); found;
+         found = rows.seekNextText(text, DescField)) {
+        if (rows.number(TypeField) == type)
+            return rows.number(RowidField);
+    }
+    return NoEntry;
+}
+
+QString userText(const TableUse &users)
+{
+    const QString login = users.text(QStringLiteral("login"));
+    const QString name = clsSystem::MakeFullName(users.text(QStringLiteral("firstname")),
+                                                 users.text(QStringLiteral("lastname")));
+    return name.isEmpty() ? login : QString(name % u" (" % login % u')');
+}
+
+} // namespace
+
+void clsDB::LoadLV(ListSink &list, const QString &path, const QString &keyField,
+                   const QString &textField, qint32 type, bool clear)
+{
+    guarded("clsDB_LoadLV", [&] {
+        const Hourglass busy;
+        const qint32 selected = list.currentId();
+        const Loading frozen(list);
+        if (!m_bIsOpen)
+            return;
+        TableUse rows(*this, path);
+        if (!rows)
+            return;
+        const Handle key = rows.field(keyField);
+        const Handle text = rows.field(textField);
+        const Handle kind = type > 0 ? rows.field(TypeField) : 0;
+        rows.select(textField);
+        if (clear)
+            list.clear();
+        for (bool more = rows.top(); more; more = rows.next()) {
+            if (kind < 1 || f4long(kind) == type)
+                list.addItem(clsSystem::Trim(FieldText(text)), f4long(key));
+            host().pumpEvents();
+        }
+        if (selected > 0)
+            list.selectId(selected);
+    });
+}
+
+void clsDB::LoadCbo(ListSink &combo, const QString &path, const QString &keyField,
+                    const QString &textField, const QString &typeField, qint32 type, bool clear,
+                    bool addBlank, qint32 selectId)
+{
+    guarded("clsDB_LoadCbo", [&] {
+        TableUse rows(*this, path);
+        if (!rows)
+            return;
+        const Hourglass busy;
+        const Loading frozen(combo);
+        if (clear)
+            combo.clear();
+        if (addBlank)
+            combo.addItem(QString(), NoEntry);
+        const Handle key = rows.field(keyField);
+        const Handle text = rows.field(textField);
+        const Handle kind = rows.field(typeField);
+        rows.select(textField);
+        for (bool more = rows.top(); more; more = rows.next()) {
+            if (f4long(kind) == type)
+                combo.addItem(clsSystem::Trim(FieldText(text)), f4long(key));
+        }
+        if (selectId > 0)
+            combo.selectId(selectId);
+    });
+}
+
+void clsDB::LoadCbo_Users(ListSink &combo, bool clear, bool activeOnly)
+{
+    guarded("clsDB_LoadCbo_Users", [&] {
+        TableUse users(*this, UserTable());
+        if (!users)
+            return;
+        users.select(QStringLiteral("login"));
+        if (clear)
+            combo.clear();
+        for (bool more = users.top(); more; more = users.next()) {
+            if (!activeOnly || TorF2Bool(users.text(QStringLiteral("useractive"))))
+                combo.addItem(userText(users), users.number(RowidField));
+        }
+    });
+}
+
+QString clsDB::GetCategoryDesc(qint32 rowid, Handle table)
+{
+    return guarded("clsDB_GetCategoryDesc", QString(), [&] {
+        TableUse rows(*this, CategoryTable(), table);
+        if (!rows)
+            return QString();
+        rows.select(RowidField);
+        return rows.seek(rowid) ? rows.text(DescField) : QString();
+    });
+}
+
+qint32 clsDB::CategoryExists(const QString &text, qint32 type, Handle table)
+{
+    return guarded("clsDB_CategoryExists", NoEntry, [&] {
+        TableUse rows(*this, CategoryTable(), table);
+        return rows ? findEntry(rows, text, type) : NoEntry;
+    });
+}
+
+qint32 clsDB::AddCategory(const QString &text, qint32 type, Handle table)
+{
+    return guarded("clsDB_AddCategory", NoEntry, [&] {
+        if (text.isEmpty() || table < 1)
+            return NoEntry;
+        const TableUse rows(*this, CategoryTable(), table);
+        const qint32 rowid = GetNextID(schema::table(schema::Table::Category).dataFile());
+        if (rowid < 1)
+            return NoEntry;
+        d4appendStartVB(table, 0);
+        d4blank(table);
+        f4assignLong(rows.field(RowidField), rowid);
+        f4assignLong(rows.field(TypeField), type);
+        AssignText(rows.field(DescField), text);
+        const bool stored = d4append(table) == r4success && d4flush(table) == r4success;
+        d4unlock(table);
+        return stored ? rowid : NoEntry;
+    });
+}
+
+qint32 clsDB::LookupOrAddCategory(const QString &text, qint32 type, Handle table)
+{
+    if (text.isEmpty())
+        return 0;
+    const qint32 found = CategoryExists(text, type, table);
+    return found < 0 ? AddCategory(text, type, table) : found;
+}
+
+bool clsDB::CanDeleteItem(qint32 rowid, const QString &path, const QString &field)
+{
+    return guarded("clsDB_CanDeleteItem", false, [&] {
+        if (path.isEmpty())
+            return true;
+        TableUse rows(*this, path);
+        if (!rows)
+            return false;
+        if (rows.select(field))
+            return !rows.seek(rowid);
+        return !RecordExistsNoTag(2, QString::number(rowid), path, field, rows.handle());
+    });
+}

@@ -1,0 +1,130 @@
+// Opening and closing tables, and what the procedures hold while they use one.
+#include "db/clsDB.h"
+
+#include "common/base/clsSystem.h"
+#include "common/base/Prompts.h"
+#include "db/FieldText.h"
+#include "db/TableUse.h"
+
+using namespace norvane::engine;
+
+std::string engineText(const QString &text)
+{
+    return toStored(text).toStdString();
+}
+
+clsDB::Handle clsDB::OpenTable(const QString &path)
+{
+    if (m_openTables == 0)
+        m_failures.clear();
+    const std::string file = clsSystem::LocalPath(path).toStdString();
+    Handle table = d4open(m_hSession, file);
+    if (table < 1 && lastError(m_hSession).kind == ErrorKind::ReadOnly) {
+        code4errorCode(m_hSession, 0);
+        m_failures.clear();
+        code4readOnly(m_hSession, 1);
+        table = d4open(m_hSession, file);
+        code4readOnly(m_hSession, 0);
+    }
+    if (table > 0) {
+        ++m_openTables;
+        return table;
+    }
+
+    // A file that is not there needs no other words than those below.
+    if (lastError(m_hSession).kind == ErrorKind::NotFound)
+        m_failures.clear();
+    code4errorCode(m_hSession, 0);
+    m_failures.show();
+    prompts::critical(u"Unable to open: " % path);
+    return 0;
+}
+
+void clsDB::CloseTable(Handle table)
+{
+    if (table < 1)
+        return;
+    d4close(table);
+    m_openTables = std::max(0, m_openTables - 1);
+    if (m_openTables == 0)
+        m_failures.show();
+}
+
+TableUse::TableUse(clsDB &db, const QString &path, clsDB::Handle given)
+    : m_db(db), m_table(given > 0 ? given : db.OpenTable(path)), m_opened(given < 1)
+{
+}
+
+TableUse::~TableUse()
+{
+    if (m_opened)
+        m_db.CloseTable(m_table);
+}
+
+clsDB::Handle TableUse::field(const QString &name) const
+{
+    return d4field(m_table, engineText(name));
+}
+
+bool TableUse::select(const QString &tag)
+{
+    // A folder made elsewhere may lack a tag; the walk then goes in record order.
+    code4errTagName(m_db.CBEngine(), 0);
+    const clsDB::Handle found = d4tag(m_table, engineText(tag));
+    code4errTagName(m_db.CBEngine(), 1);
+    d4tagSelect(m_table, found);
+    m_seekable = found > 0;
+    return m_seekable;
+}
+
+std::string TableUse::wholeKey(const QString &text, const QString &fieldName) const
+{
+    std::string key = engineText(text);
+    const clsDB::Handle keyField = field(fieldName);
+    if (keyField > 0)
+        key.resize(f4len_v(keyField), ' ');
+    return key;
+}
+
+bool TableUse::seekText(const QString &text, const QString &fieldName)
+{
+    return m_seekable && d4seek(m_table, wholeKey(text, fieldName)) == 0;
+}
+
+bool TableUse::seekNextText(const QString &text, const QString &fieldName)
+{
+    return d4seekNext(m_table, wholeKey(text, fieldName)) == 0;
+}
+
+qint32 TableUse::number(const QString &fieldName) const
+{
+    const clsDB::Handle found = field(fieldName);
+    return found > 0 ? f4long(found) : 0;
+}
+
+QString TableUse::text(const QString &fieldName) const
+{
+    return clsSystem::Trim(FieldText(field(fieldName)));
+}
+
+LockAttempts::LockAttempts(clsDB::Handle session) : m_session(session)
+{
+    code4lockAttempts(m_session, 10);
+}
+
+LockAttempts::~LockAttempts()
+{
+    code4lockAttempts(m_session, -1);
+}
+
+RowLock::RowLock(clsDB::Handle table) : RowLock(table, d4recNo(table)) {}
+
+RowLock::RowLock(clsDB::Handle table, std::uint32_t record)
+    : m_table(table), m_code(d4lock(table, record))
+{
+}
+
+RowLock::~RowLock()
+{
+    d4unlock(m_table);
+}
