@@ -1,0 +1,122 @@
+#include "ctl/Advice.h"
+
+namespace ctl
+{
+
+using norvane::engine::Error;
+using norvane::engine::ErrorKind;
+
+namespace
+{
+
+QString sentence(ErrorKind kind)
+{
+    switch (kind) {
+    case ErrorKind::NotFound:
+        return QStringLiteral("the file or a part of it is missing");
+    case ErrorKind::Locked:
+        return QStringLiteral("another station holds it");
+    case ErrorKind::ReadOnly:
+        return QStringLiteral("it is read-only");
+    case ErrorKind::Damaged:
+        return QStringLiteral("the file is damaged");
+    case ErrorKind::Refused:
+        return QStringLiteral("the file is of a kind that Norvane does not read");
+    case ErrorKind::NoSpace:
+        return QStringLiteral("the disk is full");
+    case ErrorKind::TooLarge:
+        return QStringLiteral("the file is too large");
+    case ErrorKind::Gone:
+        return QStringLiteral("the file went away while it was read");
+    case ErrorKind::None:
+    case ErrorKind::Misuse:
+    case ErrorKind::Io:
+        break;
+    }
+    return QStringLiteral("the file cannot be read");
+}
+
+QString restore()
+{
+    return QStringLiteral("Restore all files of the folder together from your last backup.");
+}
+
+bool isIndex(const QString &file)
+{
+    return file.endsWith(QLatin1String(".cdx"), Qt::CaseInsensitive);
+}
+
+bool isMemo(const QString &file)
+{
+    return file.endsWith(QLatin1String(".fpt"), Qt::CaseInsensitive);
+}
+
+} // namespace
+
+QString failureText(const Error &error)
+{
+    QString text = sentence(error.kind);
+    if (!error.detail.empty())
+        text += QStringLiteral(": %1").arg(QString::fromStdString(error.detail));
+    if (error.place >= 0)
+        text += QStringLiteral(" (at %1)").arg(error.place);
+    return text;
+}
+
+QString fileOfFinding(const QString &line, const schema::TableInfo &table)
+{
+    const auto speaksOf = [&](QLatin1String word) {
+        return line.contains(word, Qt::CaseInsensitive);
+    };
+    if (speaksOf(QLatin1String(".cdx")) || speaksOf(QLatin1String("tag ")) ||
+        speaksOf(QLatin1String("index")))
+        return table.indexFile();
+    if (table.hasMemo && (speaksOf(QLatin1String(".fpt")) || speaksOf(QLatin1String("memo"))))
+        return table.memoFile();
+    return table.dataFile();
+}
+
+QString adviceFor(const QString &file, ErrorKind kind)
+{
+    if (kind == ErrorKind::Locked)
+        return QStringLiteral("Check again when nobody is saving.");
+    if (kind == ErrorKind::ReadOnly)
+        return QStringLiteral("Ask for the right to read and write the folder.");
+    if (isIndex(file))
+        return QStringLiteral("No data is lost: close the database at all stations, copy the "
+                              "folder, and rebuild the index of this table.");
+    if (isMemo(file))
+        return QStringLiteral("Notes and other long texts may be lost. ") + restore();
+    return restore();
+}
+
+QString adviceForMissing(const schema::TableInfo &table, const QString &file)
+{
+    if (table.repairable)
+        return QStringLiteral("Opening the database in Norvane puts an empty one in its place; if "
+                              "it held data, restore it from your last backup first.");
+    if (isIndex(file))
+        return QStringLiteral("Restore it from your last backup, together with all files of the "
+                              "folder.");
+    return restore();
+}
+
+QString adviceForLayout()
+{
+    return QStringLiteral("The table was made by another program or version. ") + restore();
+}
+
+QString adviceForIdentifiers()
+{
+    return QStringLiteral("Only one of the rows can be opened. Dump the table, and save the "
+                          "record that is wrong anew or delete it.");
+}
+
+QString adviceForCounters()
+{
+    return QStringLiteral("New records could get a number that is in use. Close the database at "
+                          "all stations and restore nvnid.dbf and nvnid.cdx together with the "
+                          "other files from one backup.");
+}
+
+} // namespace ctl

@@ -1,0 +1,23 @@
+// What a person should know and do about a finding.
+#pragma once
+
+#include "db/engine/engine.h"
+#include "db/Schema.h"
+
+#include <QString>
+
+namespace ctl
+{
+
+QString failureText(const norvane::engine::Error &error);
+
+// The file of the table that a line of the engine's check is about.
+QString fileOfFinding(const QString &line, const schema::TableInfo &table);
+
+QString adviceFor(const QString &file, norvane::engine::ErrorKind kind);
+QString adviceForMissing(const schema::TableInfo &table, const QString &file);
+QString adviceForLayout();
+QString adviceForIdentifiers();
+QString adviceForCounters();
+
+} // namespace ctl

@@ -1,0 +1,252 @@
+#include "ctl/FolderCheck.h"
+
+#include "ctl/Advice.h"
+#include "db/FieldText.h"
+
+#include <QDir>
+
+#include <algorithm>
+
+namespace ctl
+{
+
+using namespace norvane::engine;
+
+namespace
+{
+
+constexpr int MostFindingsOfAFile = 20;
+constexpr int LockAttempts = 10;
+constexpr qint32 FirstIdentifier = 1000;
+
+QString fileName(const std::string &path)
+{
+    return QString::fromStdString(path).section(u'/', -1).section(u'\\', -1);
+}
+
+} // namespace
+
+FolderCheck::FolderCheck(const QString &dir) : m_dir(dir), m_session(d4init_v())
+{
+    code4lockAttempts(m_session, LockAttempts);
+    code4errTagName(m_session, 0);
+    const QStringList files = QDir(dir).entryList(QDir::Files);
+    for (const QString &file : files)
+        m_there.insert(file.toLower(), file);
+}
+
+FolderCheck::~FolderCheck()
+{
+    d4initUndo(m_session);
+}
+
+const QList<Finding> &FolderCheck::run()
+{
+    checkFiles();
+    for (const schema::TableInfo &table : schema::tables())
+        checkTable(table);
+    checkCounters();
+    checkReferences();
+    return m_findings;
+}
+
+void FolderCheck::add(const QString &file, const QString &text, const QString &advice, bool serious)
+{
+    m_findings.append({file, text, advice, serious});
+}
+
+QString FolderCheck::pathOf(const QString &file) const
+{
+    const auto found = m_there.constFind(file.toLower());
+    return found == m_there.constEnd() ? QString() : QDir(m_dir).filePath(*found);
+}
+
+void FolderCheck::checkFiles()
+{
+    for (const schema::TableInfo &table : schema::tables())
+        for (const QString &file : table.files())
+            if (pathOf(file).isEmpty())
+                add(file, QStringLiteral("the file is missing"), adviceForMissing(table, file));
+}
+
+Handle FolderCheck::open(const schema::TableInfo &table)
+{
+    for (const QString &file : table.files())
+        if (pathOf(file).isEmpty())
+            return 0;
+    const std::string path = pathOf(table.dataFile()).toStdString();
+    // Reading along is enough, and works on a folder that refuses writing.
+    code4errorCode(m_session, 0);
+    Handle handle = d4open(m_session, path);
+    if (handle < 1 && lastError(m_session).kind == ErrorKind::ReadOnly) {
+        code4readOnly(m_session, 1);
+        handle = d4open(m_session, path);
+    }
+    return handle;
+}
+
+void FolderCheck::checkTable(const schema::TableInfo &table)
+{
+    for (const QString &file : table.files())
+        if (pathOf(file).isEmpty())
+            return;
+    const Handle handle = open(table);
+    if (handle < 1) {
+        const Error &error = lastError(m_session);
+        const QString named = fileName(error.file);
+        const QString file = named.isEmpty() ? table.dataFile() : named;
+        add(file, failureText(error), adviceFor(file, error.kind));
+        return;
+    }
+    checkFields(table, handle);
+    const std::vector<std::string> lines = d4check(handle);
+    int shown = 0;
+    for (const std::string &line : lines) {
+        const QString text = QString::fromStdString(line);
+        const QString file = fileOfFinding(text, table);
+        if (++shown > MostFindingsOfAFile) {
+            add(table.dataFile(),
+                QStringLiteral("%1 more findings of this kind")
+                    .arg(static_cast<qint64>(lines.size()) - MostFindingsOfAFile),
+                adviceFor(file, ErrorKind::Damaged));
+            break;
+        }
+        add(file, text, adviceFor(file, ErrorKind::Damaged));
+    }
+    checkRows(table, handle);
+    d4close(handle);
+}
+
+void FolderCheck::checkFields(const schema::TableInfo &table, Handle handle)
+{
+    for (const FieldDef &field : table.def.fields)
+        if (d4field(handle, field.name) < 1)
+            add(table.dataFile(),
+                QStringLiteral("the field %1 is missing")
+                    .arg(QString::fromLatin1(field.name.c_str())),
+                adviceForLayout());
+    for (const TagDef &tag : table.def.tags)
+        if (d4tag(handle, tag.name) < 1)
+            add(table.indexFile(),
+                QStringLiteral("the tag %1 is missing").arg(QString::fromLatin1(tag.name.c_str())),
+                adviceFor(table.indexFile(), ErrorKind::Damaged));
+}
+
+void FolderCheck::checkRows(const schema::TableInfo &table, Handle handle)
+{
+    const Handle rowid = d4field(handle, "rowid");
+    if (rowid < 1)
+        return;
+    RowFacts &facts = m_facts[static_cast<int>(table.table)];
+    d4tagSelect(handle, 0);
+    Code code = d4top(handle);
+    for (; code == r4success; code = d4skip(handle, 1)) {
+        const qint32 id = f4long(rowid);
+        facts.highest = std::max(facts.highest, id);
+        if (!d4deleted(handle))
+            ++facts.live[id];
+    }
+    facts.read = code == r4eof;
+    if (!facts.read)
+        add(table.dataFile(), failureText(lastError(m_session)),
+            adviceFor(table.dataFile(), ErrorKind::Damaged));
+    QList<qint32> doubled;
+    for (auto it = facts.live.cbegin(); it != facts.live.cend(); ++it)
+        if (it.value() > 1 || it.key() < 1)
+            doubled << it.key();
+    std::sort(doubled.begin(), doubled.end());
+    for (qsizetype i = 0; i < std::min<qsizetype>(doubled.size(), MostFindingsOfAFile); ++i)
+        add(table.dataFile(),
+            doubled[i] < 1 ? QStringLiteral("%1 rows have the rowid %2, which no record may have")
+                                 .arg(facts.live.value(doubled[i]))
+                                 .arg(doubled[i])
+                           : QStringLiteral("%1 rows share the rowid %2")
+                                 .arg(facts.live.value(doubled[i]))
+                                 .arg(doubled[i]),
+            adviceForIdentifiers());
+}
+
+void FolderCheck::checkCounters()
+{
+    const schema::TableInfo &counterTable = schema::table(schema::Table::LastID);
+    const Handle handle = open(counterTable);
+    if (handle < 1)
+        return; // said already
+    const Handle name = d4field(handle, "tblname");
+    const Handle next = d4field(handle, "lastid");
+    QHash<QString, QList<qint32>> counters;
+    d4tagSelect(handle, 0);
+    for (Code code = d4top(handle); code == r4success && name > 0 && next > 0;
+         code = d4skip(handle, 1))
+        if (!d4deleted(handle))
+            counters[FieldText(name).trimmed().toLower()] << f4long(next);
+    d4close(handle);
+    for (const schema::TableInfo &table : schema::tables())
+        checkCounter(table, counters.value(table.dataFile()));
+}
+
+void FolderCheck::checkCounter(const schema::TableInfo &table, const QList<qint32> &counters)
+{
+    const QString file = schema::table(schema::Table::LastID).dataFile();
+    if (counters.size() > 1)
+        add(file, QStringLiteral("%1 counters for %2").arg(counters.size()).arg(table.dataFile()),
+            adviceForCounters());
+    const RowFacts facts = m_facts.value(static_cast<int>(table.table));
+    const qint32 next = counters.isEmpty() ? FirstIdentifier : counters.first();
+    if (facts.highest < next)
+        return;
+    add(file,
+        QStringLiteral("the next identifier for %1 is %2, but %3 is in use already")
+            .arg(table.dataFile())
+            .arg(next)
+            .arg(facts.highest),
+        adviceForCounters());
+}
+
+void FolderCheck::checkReferences()
+{
+    using schema::Table;
+    checkReference(Table::Customer2PS, "custid", Table::Customer);
+    checkReference(Table::Issues, "custid", Table::Customer);
+    checkReference(Table::IssuesActions, "issueid", Table::Issues);
+    checkReference(Table::Customer, "custcat", Table::Category);
+    checkReference(Table::Customer, "state", Table::Category);
+    checkReference(Table::Customer, "country", Table::Category);
+    checkReference(Table::Customer2PS, "psid", Table::Category);
+    checkReference(Table::Customer2PS, "conttype", Table::Category);
+    checkReference(Table::Customer2PS, "contdur", Table::Category);
+    checkReference(Table::Issues, "psid", Table::Category);
+    checkReference(Table::Issues, "priority", Table::Category);
+    checkReference(Table::Issues, "status", Table::Category);
+    checkReference(Table::Issues, "issuecat", Table::Category);
+    checkReference(Table::IssuesActions, "action", Table::Category);
+}
+
+// A row that was deleted while others still name it is allowed; the screens show an empty text.
+void FolderCheck::checkReference(schema::Table from, const char *field, schema::Table to)
+{
+    const RowFacts &target = m_facts[static_cast<int>(to)];
+    if (!target.read || !m_facts.value(static_cast<int>(from)).read)
+        return;
+    const schema::TableInfo &table = schema::table(from);
+    const Handle handle = open(table);
+    const Handle reference = handle < 1 ? 0 : d4field(handle, field);
+    int lost = 0;
+    if (reference > 0) {
+        d4tagSelect(handle, 0);
+        for (Code code = d4top(handle); code == r4success; code = d4skip(handle, 1))
+            if (!d4deleted(handle) && f4long(reference) > 0 &&
+                !target.live.contains(f4long(reference)))
+                ++lost;
+    }
+    if (handle > 0)
+        d4close(handle);
+    if (lost > 0)
+        add(table.dataFile(),
+            QStringLiteral("%1 rows name a record of %2 in the field %3 that is not there")
+                .arg(lost)
+                .arg(schema::table(to).dataFile(), QLatin1String(field)),
+            QStringLiteral("The screens show nothing in that place."), false);
+}
+
+} // namespace ctl

@@ -1,0 +1,79 @@
+#include "ctl/ImportTarget.h"
+
+#include "db/clsDB.h"
+#include "db/import/ImportRun.h"
+
+namespace ctl
+{
+
+namespace
+{
+
+// False with everything that is wrong with the file.
+bool checkFile(const QString &path, const clsImportColDefs &columns, QStringList &headings,
+               qint32 &rowCount, QString &errors)
+{
+    clsImportData data;
+    return data.ValidateCols(path, columns, headings, errors) &&
+           data.ValidateRows(path, columns, headings, errors, rowCount);
+}
+
+} // namespace
+
+const QList<ImportTarget> &importTargets()
+{
+    static const QList<ImportTarget> all{
+        {QStringLiteral("customers"), 0, QStringLiteral("customers")},
+        {QStringLiteral("categories"), 1, QStringLiteral("customer categories")},
+        {QStringLiteral("products"), 2, QStringLiteral("products and services")},
+        {QStringLiteral("states"), 3, QStringLiteral("states and provinces")},
+        {QStringLiteral("countries"), 4, QStringLiteral("countries")},
+        {QStringLiteral("statuses"), 101, QStringLiteral("issue statuses")},
+        {QStringLiteral("priorities"), 102, QStringLiteral("issue priorities")},
+        {QStringLiteral("contracttypes"), 103, QStringLiteral("contract types")},
+        {QStringLiteral("contractdurations"), 104, QStringLiteral("contract durations")},
+        {QStringLiteral("issuecategories"), 105, QStringLiteral("issue categories")},
+        {QStringLiteral("actions"), 106, QStringLiteral("issue actions")},
+    };
+    return all;
+}
+
+std::optional<ImportTarget> importTarget(const QString &name)
+{
+    for (const ImportTarget &target : importTargets())
+        if (target.name.compare(name, Qt::CaseInsensitive) == 0)
+            return target;
+    return std::nullopt;
+}
+
+QString importTargetNames()
+{
+    QStringList names;
+    for (const ImportTarget &target : importTargets())
+        names << target.name;
+    return names.join(QStringLiteral(", "));
+}
+
+std::optional<qint32> importFile(clsDB &db, const ImportTarget &target, const QString &path,
+                                 const std::function<void(qint32)> &eachRow, Console &console)
+{
+    QStringList headings;
+    qint32 rowCount = 0;
+    QString errors;
+    if (!checkFile(path, ImportRun::columns(target.listType), headings, rowCount, errors)) {
+        console.err
+            << QStringLiteral("IMPORT FAILED FROM FILE %1!\n\n%2\n").arg(path, errors.trimmed());
+        return std::nullopt;
+    }
+    ImportRun run(db, target.listType, headings, rowCount);
+    run.onStored(eachRow);
+    const ImportResult result = run.ImportData_Detail(path);
+    if (result.ok && result.stored + result.skipped == result.tried)
+        return result.tried;
+    console.err << QStringLiteral("Unable to import data! %1 of %2 rows were stored.\n")
+                       .arg(result.stored + result.skipped)
+                       .arg(result.tried);
+    return std::nullopt;
+}
+
+} // namespace ctl
