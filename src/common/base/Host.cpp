@@ -21,6 +21,20 @@ void letEventsThrough()
         QCoreApplication::processEvents();
 }
 
+ProgramResult runToItsEnd(const QString &program, const QStringList &arguments, int patience)
+{
+    QProcess process;
+    process.start(program, arguments);
+    process.closeWriteChannel();
+    if (!process.waitForFinished(patience)) {
+        process.kill();
+        process.waitForFinished();
+        return {};
+    }
+    return {process.exitStatus() == QProcess::NormalExit, process.exitCode(),
+            process.readAllStandardOutput(), process.readAllStandardError()};
+}
+
 Host machine()
 {
     Host host;
@@ -34,6 +48,7 @@ Host machine()
     host.launch = [](const QString &program, const QStringList &arguments) {
         return QProcess::startDetached(program, arguments);
     };
+    host.run = runToItsEnd;
     return host;
 }
 

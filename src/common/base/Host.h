@@ -2,12 +2,21 @@
 // swap members (tests/support/FakeHost.h).
 #pragma once
 
+#include <QByteArray>
 #include <QDateTime>
 #include <QLocale>
 #include <QString>
 #include <QStringList>
 
 #include <functional>
+
+// What a program that was waited for left behind.
+struct ProgramResult {
+    bool ended = false; // it started, and ended by itself in time
+    int exitCode = -1;
+    QByteArray output; // standard output
+    QByteArray errors; // standard error
+};
 
 struct Host {
     std::function<QDateTime()> now;
@@ -23,6 +32,9 @@ struct Host {
     std::function<bool(const QString &item)> open;
     // Starts a program with arguments, never through a shell; false when it did not start.
     std::function<bool(const QString &program, const QStringList &arguments)> launch;
+    // The same, and waits for its end, at most that many milliseconds; then it is stopped.
+    std::function<ProgramResult(const QString &program, const QStringList &arguments, int patience)>
+        run;
 };
 
 // The one host of the process; the graphical layer fills in pumpEvents, repaint, setBusy and open.
