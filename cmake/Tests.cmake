@@ -1,6 +1,7 @@
 # norvane_test(NAME SOURCES ... LIBS ... [LABEL ...]): one test program over the named libraries. Every case of it is
 # a ctest test of its own with a time limit, on the offscreen platform and with a home of its own.
 find_package(GTest REQUIRED)
+find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
 include(GoogleTest)
 
 function(norvane_test name)
