@@ -1,0 +1,40 @@
+// One field of a record and the control that shows it. Text goes out as the control holds it;
+// a lookup field is the chosen item's id, -1 for none.
+#pragma once
+
+#include <QString>
+#include <QVariant>
+
+#include <functional>
+
+class QComboBox;
+class QLineEdit;
+class QPlainTextEdit;
+class QWidget;
+
+struct FieldBinding {
+    QString field;
+    QWidget *control = nullptr;
+    std::function<void()> refill; // from its lookup list; empty when it has none
+    std::function<void(const QVariant &)> show;
+    std::function<QVariant()> value;
+};
+
+namespace binding
+{
+
+// The most bytes of a memo that can be read back.
+inline constexpr qsizetype kMemoLimit = 32767;
+
+// `length` is the field's width in the table, the most that can be typed; 0 sets no limit.
+FieldBinding text(const QString &field, QLineEdit *box, int length);
+// The same without blanks around it.
+FieldBinding trimmedText(const QString &field, QLineEdit *box, int length);
+// A text that may be picked from the list of this type; below 1 the combo keeps its own items.
+FieldBinding comboText(const QString &field, QComboBox *combo, int length, int listType);
+// An item of the list of this type, with an empty one to choose none.
+FieldBinding lookup(const QString &field, QComboBox *combo, int listType);
+// A memo. Typing or pasting stops where the stored text would pass kMemoLimit.
+FieldBinding memo(const QString &field, QPlainTextEdit *box);
+
+} // namespace binding

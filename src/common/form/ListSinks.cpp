@@ -1,0 +1,80 @@
+#include "common/form/ListSinks.h"
+
+#include "common/ui/Controls.h"
+#include "common/ui/ListView.h"
+
+#include <QComboBox>
+
+namespace
+{
+
+QString itemKey(qint32 id)
+{
+    return QLatin1Char('N') + QString::number(id);
+}
+
+} // namespace
+
+void ComboSink::clear()
+{
+    m_combo->clear();
+}
+
+void ComboSink::addItem(const QString &text, qint32 id)
+{
+    const int current = m_combo->currentIndex();
+    cboAddItem(m_combo, text, id);
+    if (m_combo->currentIndex() != current)
+        m_combo->setCurrentIndex(current); // a combo box selects its first item unasked
+}
+
+qint32 ComboSink::currentId() const
+{
+    return cboGetItemID(m_combo);
+}
+
+void ComboSink::selectId(qint32 id)
+{
+    cboSelectAtID(m_combo, id);
+}
+
+void ComboSink::beginLoad()
+{
+    m_combo->setUpdatesEnabled(false);
+}
+
+void ComboSink::endLoad()
+{
+    m_combo->setUpdatesEnabled(true);
+}
+
+void ListViewSink::clear()
+{
+    m_list->clearItems();
+}
+
+void ListViewSink::addItem(const QString &text, qint32 id)
+{
+    m_list->addItem(itemKey(id), {text});
+}
+
+qint32 ListViewSink::currentId() const
+{
+    const QString key = LvGetSelectedItemKey(m_list);
+    return key.isEmpty() ? -1 : key.mid(1).toInt();
+}
+
+void ListViewSink::selectId(qint32 id)
+{
+    LvSelectItem(m_list, itemKey(id));
+}
+
+void ListViewSink::beginLoad()
+{
+    m_list->beginLoad();
+}
+
+void ListViewSink::endLoad()
+{
+    m_list->endLoad();
+}

@@ -1,0 +1,210 @@
+// Controls of a record screen: field bindings, buttons and keys.
+#include "common/base/clsSystem.h"
+#include "common/base/Failure.h"
+#include "common/form/RecordForm.h"
+#include "common/ui/Controls.h"
+#include "common/ui/Switchboard.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QTextEdit>
+
+void RecordForm::bindField(FieldBinding binding)
+{
+    m_bindings.push_back(std::move(binding));
+}
+
+// Characters and bytes are the same number: one byte a character in the tables.
+int RecordForm::fieldLength(const QString &field) const
+{
+    const std::string wanted = field.toUpper().toStdString();
+    for (const auto &known : schema::table(m_spec.table).def.fields)
+        if (known.name == wanted)
+            return known.length;
+    return 0;
+}
+
+void RecordForm::bind(const QString &field, QLineEdit *box)
+{
+    bindField(binding::text(field, box, fieldLength(field)));
+}
+
+void RecordForm::bindTrimmed(const QString &field, QLineEdit *box)
+{
+    bindField(binding::trimmedText(field, box, fieldLength(field)));
+}
+
+void RecordForm::bind(const QString &field, QPlainTextEdit *memo)
+{
+    bindField(binding::memo(field, memo));
+}
+
+void RecordForm::bindLookup(const QString &field, QComboBox *combo, int listType)
+{
+    bindField(binding::lookup(field, combo, listType));
+}
+
+void RecordForm::bindText(const QString &field, QComboBox *combo, int listType)
+{
+    bindField(binding::comboText(field, combo, fieldLength(field), listType));
+}
+
+void RecordForm::bindCustom(const QString &field, QWidget *control,
+                            std::function<void(const QVariant &)> show,
+                            std::function<QVariant()> value)
+{
+    bindField({field, control, {}, std::move(show), std::move(value)});
+}
+
+void RecordForm::insertStamp(QPlainTextEdit *memo)
+{
+    TxtCtlInsertStr(memo, clsSystem::CurrDateTimeShort() + u" by " + gDB.LoginName());
+    memo->setFocus();
+}
+
+void RecordForm::connectControls()
+{
+    const Controls &c = m_controls;
+    // The platform decides the order of these three.
+    c.buttonBox->addButton(c.OKButton, QDialogButtonBox::AcceptRole);
+    c.buttonBox->addButton(c.CancelButton, QDialogButtonBox::RejectRole);
+    c.buttonBox->addButton(c.cmdApply, QDialogButtonBox::ApplyRole);
+    c.OKButton->setDefault(true);
+
+    connect(c.OKButton, &QPushButton::clicked, this, &RecordForm::saveAndClose);
+    connect(c.cmdApply, &QPushButton::clicked, this, &RecordForm::saveAndStay);
+    connect(c.CancelButton, &QPushButton::clicked, this, &RecordForm::cancel);
+    connect(c.cmdRefresh, &QPushButton::clicked, this, &RecordForm::LoadData);
+    connect(c.cmdDelete, &QPushButton::clicked, this, &RecordForm::deleteRecord);
+    connect(c.lblEdit, &QPushButton::clicked, this, &RecordForm::DoEditModeBtn);
+
+    // Keys of the whole form are seen at the control that has the focus, before text boxes take
+    // them for keys of their own (Ctrl+E moves the caret).
+    const auto controls = findChildren<QWidget *>();
+    for (QWidget *control : controls)
+        control->installEventFilter(this);
+}
+
+// A cell that is still being typed into counts as typed, whichever key or button ends the edit.
+void RecordForm::finishTyping()
+{
+    QWidget *focus = QApplication::focusWidget();
+    for (QWidget *at = focus; at != nullptr && at != this; at = at->parentWidget())
+        if (auto *view = qobject_cast<QAbstractItemView *>(at); view != nullptr && view != focus) {
+            view->setFocus();
+            return;
+        }
+}
+
+void RecordForm::saveAndClose()
+{
+    finishTyping();
+    if (!SaveData())
+        return;
+    m_controls.EM->ViewMode();
+    close();
+}
+
+void RecordForm::saveAndStay()
+{
+    finishTyping();
+    if (!SaveData())
+        return;
+    m_controls.EM->ViewMode();
+    UpdateLastEditCtl();
+    SetUI();
+}
+
+void RecordForm::cancel()
+{
+    if (inEditMode() && !DiscardChanges())
+        return;
+    m_controls.EM->ViewMode();
+    close();
+}
+
+void RecordForm::deleteRecord()
+{
+    guarded(context("cmdDelete_Click").constData(), [this] {
+        const QString refusal = deleteRefusal();
+        if (!refusal.isEmpty()) {
+            clsSystem::ShowMsg(refusal, prompts::Kind::Warning);
+            return;
+        }
+        const auto answer =
+            prompts::ask(deleteQuestion(), prompts::Answer::Cancel, tr("DELETE Confirmation"));
+        if (answer != prompts::Answer::Yes || !gDB.DeleteRecord(m_rowid, tablePath()))
+            return;
+        m_controls.EM->ViewMode();
+        close();
+    });
+}
+
+// Field colours are worked out from the palette, so they follow a change of it.
+void RecordForm::changeEvent(QEvent *event)
+{
+    FormWindow::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && m_controls.EM != nullptr)
+        SetUI();
+}
+
+bool RecordForm::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::KeyPress)
+        return handleKey(static_cast<QKeyEvent *>(event));
+    return FormWindow::eventFilter(watched, event);
+}
+
+void RecordForm::keyPressEvent(QKeyEvent *event)
+{
+    if (!handleKey(event))
+        FormWindow::keyPressEvent(event);
+}
+
+bool RecordForm::handleKey(const QKeyEvent *event)
+{
+    if (KeyPressedCtrlE(event->key(), event->modifiers())) {
+        if (!m_controls.lblEdit->isHidden() && !inEditMode())
+            DoEditModeBtn();
+        return true;
+    }
+    if ((event->modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier)
+        return false;
+    switch (event->key()) {
+    case Qt::Key_F1:
+        switchboard().showHelp(helpTopic());
+        return true;
+    case Qt::Key_F5:
+        m_controls.cmdRefresh->click(); // does nothing while it is disabled
+        return true;
+    case Qt::Key_Escape:
+        m_controls.CancelButton->click();
+        return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return pressDefault();
+    default:
+        return false;
+    }
+}
+
+// Enter presses the button that has the focus, else OK; where it has a meaning of its own, in
+// texts of many lines and in lists, it is left alone.
+bool RecordForm::pressDefault()
+{
+    QWidget *focus = QApplication::focusWidget();
+    if (auto *button = qobject_cast<QAbstractButton *>(focus)) {
+        button->click();
+        return true;
+    }
+    if (qobject_cast<QPlainTextEdit *>(focus) != nullptr ||
+        qobject_cast<QTextEdit *>(focus) != nullptr ||
+        qobject_cast<QAbstractItemView *>(focus) != nullptr)
+        return false;
+    m_controls.OKButton->click();
+    return true;
+}

@@ -1,0 +1,37 @@
+#include "common/form/SetLabels.h"
+
+#include "common/ui/Controls.h"
+#include "db/clsCustomLabels.h"
+
+#include <QLabel>
+
+void SetLabels(QWidget *form, const QString &tableFile)
+{
+    const auto labels = form->findChildren<QLabel *>();
+    for (QLabel *label : labels) {
+        const QString field = controlTag(label);
+        if (field.isEmpty())
+            continue;
+        QString name = CustomLabels.GetCurrentLabelName(tableFile, field, true);
+        if (name.isEmpty())
+            continue;
+        // A name is plain text, but on the label of a field an "&" would mark an access key.
+        if (label->buddy() != nullptr)
+            name.replace(QLatin1Char('&'), QLatin1String("&&"));
+        label->setText(name);
+    }
+}
+
+QString labelCaption(const QLabel *label)
+{
+    const QString text = label->text();
+    if (label->buddy() == nullptr)
+        return text;
+    QString caption;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        if (text.at(i) == QLatin1Char('&') && i + 1 < text.size())
+            ++i;
+        caption.append(text.at(i));
+    }
+    return caption;
+}
