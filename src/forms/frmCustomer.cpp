@@ -1,0 +1,188 @@
+#include "forms/frmCustomer.h"
+
+#include "common/base/Ansi.h"
+#include "common/base/clsSystem.h"
+#include "common/form/FieldBinding.h"
+#include "common/ui/Controls.h"
+#include "common/ui/frmRichEdit.h"
+#include "common/ui/Switchboard.h"
+#include "db/clsCustomLabels.h"
+#include "db/clsLookupCustomer.h"
+#include "forms/ContactsGrid.h"
+#include "ui_frmCustomer.h"
+
+namespace
+{
+
+constexpr int kHelpTopic = 1300;
+constexpr int kNotesPage = 1;
+
+// Lookup lists that this form shows, by type code.
+constexpr int kCustomerCategories = 1;
+constexpr int kStates = 3;
+constexpr int kCountries = 4;
+constexpr int kCustom1Entries = 200;
+constexpr int kCustom2Entries = 201;
+
+RecordSpec customerSpec()
+{
+    return {.tagPrefix = QStringLiteral("C"),
+            .table = schema::Table::Customer,
+            .recordType = QStringLiteral("_customer"),
+            .captionPrefix = frmCustomer::tr("Customer: "),
+            .newCaption = frmCustomer::tr("Customer Name"),
+            .helpTopic = kHelpTopic,
+            .permission = &clsDB::Perm_Customers};
+}
+
+bool isUsableAddress(const QLineEdit *box)
+{
+    const QString address = clsSystem::Trim(box->text());
+    return address.isEmpty() || clsSystem::EmailAddressIsValid(address);
+}
+
+} // namespace
+
+frmCustomer::frmCustomer(QWidget *parent)
+    : RecordForm(customerSpec(), parent), m_ui(std::make_unique<Ui::frmCustomer>())
+{
+    m_ui->setupUi(this);
+    contacts::setUp(m_ui->grdContacts);
+    takeControls(m_ui.get());
+    setNewRecordHint(m_ui->lblNewCust);
+    bindFields();
+    tellLengths();
+
+    connect(m_ui->cmdDTStamp_Notes, &QPushButton::clicked, this,
+            [this] { insertStamp(m_ui->txtNote); });
+    connect(m_ui->cmdPrint, &QPushButton::clicked, this, &frmCustomer::FormPrint);
+    connect(m_ui->cmdLabel, &QPushButton::clicked, this, &frmCustomer::showMailingLabel);
+    connect(m_ui->tabs, &QTabWidget::currentChanged, this, [this](int page) {
+        if (page == kNotesPage && m_ui->txtNote->isEnabled())
+            m_ui->txtNote->setFocus();
+    });
+}
+
+frmCustomer::~frmCustomer() = default;
+
+// In the order in which the fields are saved.
+void frmCustomer::bindFields()
+{
+    bindTrimmed(QStringLiteral("custno"), m_ui->txtCustNo);
+    bindText(QStringLiteral("salutation"), m_ui->cboSalutation);
+    bind(QStringLiteral("firstname"), m_ui->txtFname);
+    bind(QStringLiteral("lastname"), m_ui->txtLname);
+    bind(QStringLiteral("company"), m_ui->txtCoName);
+    bindLookup(QStringLiteral("custcat"), m_ui->cboCategory, kCustomerCategories);
+    bind(QStringLiteral("title"), m_ui->txtTitle);
+    bind(QStringLiteral("address1"), m_ui->txtAddress1);
+    bind(QStringLiteral("address2"), m_ui->txtAddress2);
+    bind(QStringLiteral("city"), m_ui->txtCity);
+    bindLookup(QStringLiteral("state"), m_ui->cboStates, kStates);
+    bind(QStringLiteral("postalcode"), m_ui->txtPostalCode);
+    bindLookup(QStringLiteral("country"), m_ui->cboCountry, kCountries);
+    bind(QStringLiteral("workphone"), m_ui->txtWorkPhone);
+    bind(QStringLiteral("homephone"), m_ui->txtHomePhone);
+    bind(QStringLiteral("mobilphone"), m_ui->txtMobilePhone);
+    bind(QStringLiteral("faxphone"), m_ui->txtFaxphone);
+    bind(QStringLiteral("emailname"), m_ui->txtEmailName);
+    bind(QStringLiteral("emailname2"), m_ui->txtEmailName2);
+    bindText(QStringLiteral("custom1"), m_ui->txtCust1, kCustom1Entries);
+    bindText(QStringLiteral("custom2"), m_ui->txtCust2, kCustom2Entries);
+    bind(QStringLiteral("notes"), m_ui->txtNote);
+    bindCustom(
+        QStringLiteral("contacts"), m_ui->grdContacts,
+        [this](const QVariant &value) { contacts::show(m_ui->grdContacts, value.toString()); },
+        [this] { return QVariant(contacts::text(m_ui->grdContacts)); });
+}
+
+// Boxes for short entries are no wider than what goes into them.
+void frmCustomer::tellLengths()
+{
+    for (QLineEdit *box : {m_ui->txtCustNo, m_ui->txtPostalCode, m_ui->txtWorkPhone,
+                           m_ui->txtHomePhone, m_ui->txtMobilePhone, m_ui->txtFaxphone}) {
+        const int characters = box->maxLength() + 2; // room for the frame
+        box->setMaximumWidth(characters * box->fontMetrics().averageCharWidth());
+    }
+}
+
+QString frmCustomer::emailAddress() const
+{
+    return m_ui->txtEmailName->text();
+}
+
+QString frmCustomer::MakeCustomerName() const
+{
+    const QString company = clsSystem::Trim(m_ui->txtCoName->text());
+    if (!company.isEmpty())
+        return company;
+    const QString last = clsSystem::Trim(m_ui->txtLname->text());
+    if (!last.isEmpty())
+        return clsSystem::MakeFullName(clsSystem::Trim(m_ui->txtFname->text()), last);
+    return tr("New ");
+}
+
+QString frmCustomer::firstProblem()
+{
+    if (clsSystem::Trim(m_ui->txtLname->text()).isEmpty() &&
+        clsSystem::Trim(m_ui->txtCoName->text()).isEmpty())
+        return tr("Customer's last name or company name must be specified!");
+    if (!isUsableAddress(m_ui->txtEmailName))
+        return tr("Default email address entered is not a valid email address!");
+    if (!isUsableAddress(m_ui->txtEmailName2))
+        return tr("Alternate email address entered is not a valid email address!");
+    // A longer memo could be written but not read back.
+    if (toAnsi(contacts::text(m_ui->grdContacts)).size() > binding::kMemoLimit)
+        return tr("The additional contacts hold more text than can be stored. Please shorten "
+                  "them.");
+    return {};
+}
+
+bool frmCustomer::extraCheck()
+{
+    const QString number = clsSystem::Trim(m_ui->txtCustNo->text());
+    if (number.isEmpty())
+        return true;
+    const qint32 count = clsLookupCustomer::CustomersWithCustomerNumber(number, rowid());
+    if (count <= 0)
+        return true;
+    const QString name = CustomLabels.GetCustomerLabelName(QStringLiteral("custno"), false);
+    const QString question =
+        tr("There are %1 other customer(s) with the same %2 '%3' in your database. Choose View | "
+           "Lookup Customer to find the customers with the same %2. \n\n"
+           "Do you want to add this customer with the duplicate %2 anyways?")
+            .arg(QString::number(count), name, number);
+    return prompts::ask(question, prompts::Answer::Cancel) == prompts::Answer::Yes;
+}
+
+void frmCustomer::afterSetUI()
+{
+    contacts::setLocked(m_ui->grdContacts, !inEditMode());
+    SetCustomerNumber();
+}
+
+void frmCustomer::SetCustomerNumber()
+{
+    m_ui->lblCustomerID->setText(rowid() < 1 ? QString() : tr("ID: %1").arg(rowid()));
+}
+
+QString frmCustomer::deleteRefusal()
+{
+    const QString custid = QStringLiteral("custid");
+    QString reasons;
+    if (!gDB.CanDeleteItem(rowid(), gDB.Customers2PSTable(), custid))
+        reasons += tr("  - '%1' has Product/Services associated (Cancel Edit & see "
+                      "Product/Services tab).\n")
+                       .arg(windowTitle());
+    if (!gDB.CanDeleteItem(rowid(), gDB.IssuesTable(), custid))
+        reasons += tr("  - '%1' has Issues associated (Cancel Edit & see Issues tab).\n")
+                       .arg(windowTitle());
+    return reasons.isEmpty() ? QString() : tr("Unable to delete customer because:\n") + reasons;
+}
+
+void frmCustomer::showMailingLabel()
+{
+    auto *preview = new frmRichEdit;
+    preview->Init(tr("Mailing label text for %1").arg(MakeCustomerName()), MailingLabelText());
+    switchboard().showChild(preview);
+}
