@@ -15,7 +15,7 @@ struct clsImportColDef {
     bool rangeCheck = false;
     double high = 0;
     double low = 0;
-    QString target; // field of the customer table, "desc" for a lookup list
+    QString target;     // field of the customer table, "desc" for a lookup list
     int lookupType = 0; // list that supplies the value, 0 none
 };
 

@@ -1,0 +1,80 @@
+#include "db/import/CsvReader.h"
+
+#include "common/base/Ansi.h"
+#include "common/base/clsSystem.h"
+
+#include <algorithm>
+
+namespace
+{
+
+constexpr qint64 blockSize = 64 * 1024;
+constexpr char endOfFileMark = '\x1A';
+
+} // namespace
+
+CsvReader::CsvReader(const QString &path) : m_file(clsSystem::LocalPath(path)) {}
+
+bool CsvReader::open()
+{
+    if (!m_file.open(QIODevice::ReadOnly))
+        return false;
+    static const QByteArray mark("\xEF\xBB\xBF");
+    fill();
+    m_utf8 = m_block.startsWith(mark);
+    m_pos = m_utf8 ? mark.size() : 0;
+    return !failed();
+}
+
+// Gets the next block when the last one is used up.
+bool CsvReader::fill()
+{
+    if (m_pos < m_block.size())
+        return true;
+    m_block = m_file.read(blockSize);
+    m_pos = 0;
+    return !m_block.isEmpty();
+}
+
+void CsvReader::take(qsizetype count)
+{
+    const qsizetype room = std::max<qsizetype>(maxLineBytes - m_line.size(), 0);
+    m_line.append(m_block.constData() + m_pos, std::min(count, room));
+    m_pos += count;
+}
+
+void CsvReader::passLineEnd()
+{
+    const char end = m_block[m_pos++];
+    if (end == '\r' && fill() && m_block[m_pos] == '\n')
+        ++m_pos;
+}
+
+QString CsvReader::decoded() const
+{
+    QString text = m_utf8 ? QString::fromUtf8(m_line) : fromAnsi(m_line);
+    // No text holds this one; a field that took it would seem to end there.
+    text.remove(QChar(u'\0'));
+    return text;
+}
+
+std::optional<QString> CsvReader::readLine()
+{
+    m_line.clear();
+    if (!fill())
+        return std::nullopt;
+    while (fill()) {
+        const char *from = m_block.constData() + m_pos;
+        const char *end = m_block.constData() + m_block.size();
+        const char *stop = std::find_if(from, end, [](char c) { return c == '\r' || c == '\n'; });
+        take(stop - from);
+        if (stop != end) {
+            passLineEnd();
+            return decoded();
+        }
+    }
+    // The mark that old programs put behind the last line is no line.
+    if (failed() || m_line == QByteArray(1, endOfFileMark))
+        return std::nullopt;
+    return decoded();
+}

@@ -1,0 +1,35 @@
+// Reads a text file line by line, holding one line at a time. A line ends at CR, LF or the pair.
+// Bytes are Windows-1252, or UTF-8 in a file that starts with that byte-order mark.
+#pragma once
+
+#include <QByteArray>
+#include <QFile>
+#include <QString>
+
+#include <optional>
+
+class CsvReader
+{
+public:
+    // A line is cut here; what follows up to its end is passed over.
+    static constexpr qsizetype maxLineBytes = 4 * 1024 * 1024;
+
+    explicit CsvReader(const QString &path);
+    bool open();
+    // The next line without its end; nothing at the end of the file or after a fault.
+    std::optional<QString> readLine();
+    bool failed() const { return m_file.error() != QFileDevice::NoError; }
+    QString faultText() const { return m_file.errorString(); }
+
+private:
+    bool fill();
+    void take(qsizetype count);
+    void passLineEnd();
+    QString decoded() const;
+
+    QFile m_file;
+    QByteArray m_block;
+    qsizetype m_pos = 0;
+    QByteArray m_line;
+    bool m_utf8 = false;
+};

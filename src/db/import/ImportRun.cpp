@@ -1,0 +1,158 @@
+#include "db/import/ImportRun.h"
+
+#include "common/base/AppInfo.h"
+#include "common/base/clsSystem.h"
+#include "common/base/Failure.h"
+#include "common/base/Host.h"
+#include "db/import/CsvReader.h"
+#include "db/import/CsvText.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace
+{
+
+const clsImportColDef *columnNamed(const QString &heading, const clsImportColDefs &columns)
+{
+    for (const clsImportColDef &def : columns) {
+        if (def.name == heading)
+            return &def;
+    }
+    return nullptr;
+}
+
+[[noreturn]] void failWithReader(const CsvReader &reader)
+{
+    constexpr int DeviceError = 57;
+    throw Failure(DeviceError, app::title(), reader.faultText());
+}
+
+} // namespace
+
+ImportRun::ImportRun(clsDB &db, qint32 target, QStringList headings, qint32 rowCount)
+    : m_db(db),
+      m_target(target),
+      m_headings(std::move(headings)),
+      m_rowCount(rowCount),
+      m_columns(columns(target))
+{
+}
+
+clsImportColDefs ImportRun::columns(qint32 target)
+{
+    return target == NewCustomers ? customerImportColumns() : lookupImportColumns();
+}
+
+ImportResult ImportRun::ImportData_Detail(const QString &path)
+{
+    m_result = {};
+    QString fault;
+    WaitDlg progress;
+    clsSystem::WaitDlgShow(progress, QStringLiteral("Import Data"),
+                           QStringLiteral("Integrating data. Please wait..."), true, false);
+    m_result.ok = guarded("frmDataImport_ImportData_Detail", false, [&] {
+        fault = openTables();
+        return fault.isEmpty() && importRows(path, progress);
+    });
+    closeTables();
+    clsSystem::WaitDlgRemove(progress);
+    if (!fault.isEmpty())
+        prompts::critical(fault);
+    return m_result;
+}
+
+// The message when one cannot be opened.
+QString ImportRun::openTables()
+{
+    m_customers = m_db.OpenTable(m_db.CustomerTable());
+    if (m_customers <= 0)
+        return QStringLiteral("Unable to open Customer table!");
+    m_categories = m_db.OpenTable(m_db.CategoryTable());
+    if (m_categories <= 0)
+        return QStringLiteral("Unable to open Category table!");
+    return {};
+}
+
+void ImportRun::closeTables()
+{
+    for (clsDB::Handle *table : {&m_customers, &m_categories}) {
+        if (*table > 0)
+            m_db.CloseTable(*table);
+        *table = 0;
+    }
+}
+
+bool ImportRun::importRows(const QString &path, const WaitDlg &progress)
+{
+    CsvReader reader(path);
+    if (!reader.open())
+        failWithReader(reader);
+    bool good = true;
+    qint32 rowNumber = 1;
+    for (auto line = reader.readLine(); line; line = reader.readLine(), ++rowNumber) {
+        clsSystem::WaitDlgUpdate(progress, percentOf(rowNumber));
+        host().pumpEvents();
+        const QString row = clsSystem::Trim(*line);
+        if (rowNumber == 1 || row.isEmpty())
+            continue;
+        ++m_result.tried;
+        const QStringList values = SplitCsvRowForStoring(row);
+        const bool added = m_target == NewCustomers ? AddCustomer(values) : AddCategory(values);
+        good = added && good;
+    }
+    if (reader.failed())
+        failWithReader(reader);
+    return good;
+}
+
+int ImportRun::percentOf(qint32 rowNumber) const
+{
+    return static_cast<int>(qint64(rowNumber) * 100 / (qint64(m_rowCount) + 1));
+}
+
+bool ImportRun::AddCustomer(const QStringList &values)
+{
+    RecColl record = m_db.NewCustomerRecColl();
+    const qsizetype count = std::min(values.size(), m_headings.size());
+    for (qsizetype i = 0; i < count; ++i) {
+        const clsImportColDef *def = columnNamed(m_headings[i], m_columns);
+        if (def == nullptr)
+            continue;
+        if (def->lookupType == 0)
+            record.setExisting(def->target, values[i]);
+        else
+            record.setExisting(def->target,
+                               m_db.LookupOrAddCategory(values[i], def->lookupType, m_categories));
+    }
+    const QString lastname = QStringLiteral("lastname");
+    if (record.text(lastname).isEmpty() && record.text(QStringLiteral("company")).isEmpty())
+        record.setExisting(lastname, QStringLiteral("Un-named"));
+    if (!m_db.SaveRecord(record, false, m_customers))
+        return false;
+    noteStored(record.number(QStringLiteral("_rowid")));
+    return true;
+}
+
+bool ImportRun::AddCategory(const QStringList &values)
+{
+    if (m_headings.isEmpty() || values.isEmpty() ||
+        m_headings.front() != QLatin1String("DESCRIPTION"))
+        return false;
+    const QString &text = values.front();
+    const bool known = !text.isEmpty() && m_db.CategoryExists(text, m_target, m_categories) > 0;
+    const qint32 rowid = m_db.LookupOrAddCategory(text, m_target, m_categories);
+    if (known)
+        ++m_result.skipped;
+    else if (rowid > 0)
+        noteStored(rowid);
+    // A failed addition answers -1, which does not stop the count of the rows that went in.
+    return rowid != 0;
+}
+
+void ImportRun::noteStored(qint32 rowid)
+{
+    ++m_result.stored;
+    if (m_onStored)
+        m_onStored(rowid);
+}
