@@ -6,6 +6,7 @@
 #pragma once
 
 #include "db/engine/File.h"
+#include "db/engine/IndexPages.h"
 #include "db/engine/RowLayout.h"
 #include "db/engine/Status.h"
 
@@ -14,6 +15,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace norvane::engine
@@ -28,6 +30,8 @@ struct IndexEntry {
     friend auto operator<=>(const IndexEntry &, const IndexEntry &) = default;
 };
 
+struct RowSource;
+
 enum class KeyType { Character, Number, Date, Logical };
 
 struct TagInfo {
@@ -41,7 +45,8 @@ struct TagInfo {
 class IndexFile
 {
 public:
-    // Opens and checks header, directory and expressions against the table's fields.
+    // Opens and checks header, directory and expressions against the table's fields. Needs no
+    // lock: what it reads here never changes while the file lives.
     // Damaged: the file makes no sense; Refused: an expression outside the closed set.
     static Result<std::unique_ptr<IndexFile>> open(std::shared_ptr<File> file,
                                                    const RowLayout &layout);
@@ -61,21 +66,27 @@ public:
 
     // Drops cached pages when the file changed since they were read.
     Status refresh();
-    // The entries of one leaf from the first one >= (key, record) on; empty at the end of the tag.
-    Result<std::vector<IndexEntry>> entriesFrom(int tag, std::string_view key,
-                                                std::uint32_t record);
-    // The last entries of the tag that are < (key, record), in ascending order.
-    Result<std::vector<IndexEntry>> entriesBefore(int tag, std::string_view key,
-                                                  std::uint32_t record);
+    // The entries of one leaf from the first one >= (key, record) on, at most `most`; empty at the
+    // end of the tag. A key shorter than the tag's stands before all that begin with it.
+    Result<std::vector<IndexEntry>> entriesFrom(int tag, std::string_view key, std::uint32_t record,
+                                                std::size_t most = SIZE_MAX);
+    // The last entries of the tag that are < (key, record), in ascending order, at most `most`.
+    Result<std::vector<IndexEntry>>
+    entriesBefore(int tag, std::string_view key, std::uint32_t record, std::size_t most = SIZE_MAX);
 
+    // Inserting a pair that is there already, or removing one that is not, is Damaged. After any
+    // failure of the two only discard() makes the index usable again.
     Status insert(int tag, std::string_view key, std::uint32_t record);
-    // Removing a pair that is not there is Damaged.
     Status remove(int tag, std::string_view key, std::uint32_t record);
-    // Writes changed pages (children before parents, change counter last).
+    // What commit() would write, in its order; empty without changes.
+    std::vector<PageChange> changes() const;
+    // Writes changed pages (children before parents, change counter last). When that fails, the
+    // pages are read anew after the next refresh(), whatever of them reached the file.
     Status commit();
     void discard();
 
 private:
+    friend Result<std::vector<std::string>> checkIndex(IndexFile &index, RowSource rows);
     struct Impl;
     explicit IndexFile(std::unique_ptr<Impl> impl);
     std::unique_ptr<Impl> m_impl;

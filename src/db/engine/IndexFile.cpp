@@ -1,0 +1,342 @@
+#include "db/engine/IndexFile.h"
+
+#include "db/engine/ExpressionTokens.h"
+#include "db/engine/IndexFileImpl.h"
+#include "db/engine/IndexHeader.h"
+#include "db/engine/IndexTree.h"
+#include "db/engine/KeyEncoding.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <limits>
+
+namespace norvane::engine
+{
+
+namespace
+{
+
+constexpr std::size_t mostTags = 1000; // far above any real index; bounds the work on a bad one
+
+KeyType keyTypeOf(ValueType type)
+{
+    switch (type) {
+    case ValueType::Character:
+        return KeyType::Character;
+    case ValueType::Date:
+        return KeyType::Date;
+    case ValueType::Logical:
+        return KeyType::Logical;
+    default:
+        return KeyType::Number;
+    }
+}
+
+Error placed(Error error, const File &file, std::uint64_t place)
+{
+    error.file = file.path();
+    error.place = static_cast<std::int64_t>(place);
+    return error;
+}
+
+std::string_view withoutBlanks(std::string_view name)
+{
+    return name.substr(0, name.find_last_not_of(' ') + 1);
+}
+
+} // namespace
+
+Status IndexFile::Impl::readDirectory(const RowLayout &layout)
+{
+    std::array<Byte, headerSize> bytes{};
+    if (Status read = pages.readRaw(0, bytes); !read.ok())
+        return read;
+    const Result<IndexHeader> header = decodeDirectoryHeader(bytes);
+    if (!header.ok())
+        return placed(header.error(), *file, 0);
+    directory = {header->root, directoryKeyLength, ' '};
+    IndexTree tree(pages, directory);
+    TreePath path;
+    std::vector<std::pair<std::uint32_t, std::string>> found;
+    std::string key;
+    for (std::uint32_t record = 0;;) {
+        const Result<bool> more = tree.seek(key, record, path);
+        if (!more.ok())
+            return more.error();
+        if (!*more)
+            break;
+        key = path.leaf().page->leaf.key(path.leaf().entry);
+        record = path.leaf().page->leaf.record(path.leaf().entry);
+        if (found.size() == mostTags)
+            return pages.damaged("there are too many tags", 0);
+        found.emplace_back(record++, withoutBlanks(key));
+    }
+    std::sort(found.begin(), found.end());
+    for (const auto &[at, name] : found) {
+        if (Status read = readTag(name, at, layout); !read.ok())
+            return read;
+    }
+    return {};
+}
+
+Status IndexFile::Impl::readTag(std::string_view name, std::uint32_t at, const RowLayout &layout)
+{
+    if (at % indexPageSize != 0 || at + std::uint64_t{headerSize} > pages.size())
+        return pages.damaged("a tag header lies outside the file", at);
+    std::array<Byte, headerSize> bytes{};
+    if (Status read = pages.readRaw(at, bytes); !read.ok())
+        return read;
+    const Result<IndexHeader> header = decodeTagHeader(bytes);
+    if (!header.ok())
+        return placed(header.error(), *file, at);
+    Result<KeyExpression> key = KeyExpression::parse(header->expression, layout);
+    if (!key.ok())
+        return placed(key.error(), *file, at);
+    if (key->keyLength() != header->keyLength)
+        return pages.damaged("the key length of a tag does not fit its expression", at);
+    std::optional<KeyExpression> filter;
+    if (!header->filter.empty()) {
+        Result<KeyExpression> parsed = KeyExpression::parse(header->filter, layout);
+        if (!parsed.ok())
+            return placed(parsed.error(), *file, at);
+        if (parsed->type() != ValueType::Logical)
+            return placed({ErrorKind::Refused, {}, "a filter is not a condition"}, *file, at);
+        filter = std::move(*parsed);
+    }
+    for (const IndexTag &other : tags) {
+        if (other.shape.root == header->root || other.header == at ||
+            header->root == directory.root)
+            return pages.damaged("two tags share a page", at);
+    }
+    infos.push_back({std::string(name), header->expression, header->filter, keyTypeOf(key->type()),
+                     header->keyLength});
+    const TreeShape shape{header->root, header->keyLength, key->padByte()};
+    tags.push_back({at, shape, header->unique, std::move(*key), std::move(filter)});
+    return {};
+}
+
+Status IndexFile::Impl::checkTag(int tag) const
+{
+    if (tag >= 0 && static_cast<std::size_t>(tag) < tags.size())
+        return {};
+    return Error{ErrorKind::Misuse, file->path(), "there is no such tag"};
+}
+
+Status IndexFile::Impl::checkKey(int tag, std::string_view keyBytes) const
+{
+    if (Status known = checkTag(tag); !known.ok())
+        return known;
+    if (pages.broken())
+        return Error{ErrorKind::Misuse, file->path(), "an index change broke off half way"};
+    if (keyBytes.size() == at(tag).shape.keyLength)
+        return {};
+    return Error{ErrorKind::Misuse, file->path(), "a key has the wrong length"};
+}
+
+IndexFile::IndexFile(std::unique_ptr<Impl> impl) : m_impl(std::move(impl)) {}
+IndexFile::~IndexFile() = default;
+
+Result<std::unique_ptr<IndexFile>> IndexFile::open(std::shared_ptr<File> file,
+                                                   const RowLayout &layout)
+{
+    auto impl = std::make_unique<Impl>(std::move(file));
+    impl->recordLength = layout.recordLength;
+    if (Status read = impl->pages.refresh(); !read.ok())
+        return read.error();
+    if (Status read = impl->readDirectory(layout); !read.ok())
+        return read.error();
+    impl->pages.distrust();
+    return std::unique_ptr<IndexFile>(new IndexFile(std::move(impl)));
+}
+
+const std::vector<TagInfo> &IndexFile::tags() const
+{
+    return m_impl->infos;
+}
+
+int IndexFile::findTag(std::string_view name) const
+{
+    for (std::size_t i = 0; i < m_impl->infos.size(); ++i) {
+        if (sameWord(m_impl->infos[i].name, name))
+            return static_cast<int>(i);
+    }
+    return -1;
+}
+
+Result<std::optional<std::string>> IndexFile::keyOf(int tag, ByteView row) const
+{
+    if (Status known = m_impl->checkTag(tag); !known.ok())
+        return known.error();
+    if (row.size() < m_impl->recordLength)
+        return Error{ErrorKind::Misuse, m_impl->file->path(), "a row is too short"};
+    const IndexTag &found = m_impl->at(tag);
+    if (!found.has(row))
+        return std::optional<std::string>();
+    std::string key(found.shape.keyLength, '\0');
+    found.key.writeKey(row, reinterpret_cast<Byte *>(key.data()));
+    return std::optional(std::move(key));
+}
+
+std::optional<std::string> IndexFile::soughtKey(int tag, std::string_view text) const
+{
+    if (!m_impl->checkTag(tag).ok())
+        return std::nullopt;
+    const TagInfo &info = m_impl->infos[static_cast<std::size_t>(tag)];
+    const std::string_view trimmed = withoutBlanks(text);
+    switch (info.keyType) {
+    case KeyType::Character: {
+        // A field cuts what does not fit, so the sought text is cut alike.
+        std::string key(text.substr(0, info.keyLength));
+        m_impl->at(tag).key.foldSought(key);
+        return key;
+    }
+    case KeyType::Date: {
+        const double day = julianDay(trimmed);
+        if (day == 0.0 && !trimmed.empty())
+            return std::nullopt;
+        std::string key(numberKeyLength, '\0');
+        putNumberKey(day, reinterpret_cast<Byte *>(key.data()));
+        return key;
+    }
+    case KeyType::Logical:
+        if (sameWord(trimmed, "T") || sameWord(trimmed, "Y"))
+            return "T";
+        return sameWord(trimmed, "F") || sameWord(trimmed, "N") ? std::optional<std::string>("F")
+                                                                : std::nullopt;
+    case KeyType::Number:
+        break;
+    }
+    const std::optional<double> number = leadingNumber(text);
+    return number ? soughtKey(tag, *number) : std::nullopt;
+}
+
+std::optional<std::string> IndexFile::soughtKey(int tag, double number) const
+{
+    if (!m_impl->checkTag(tag).ok() || std::isnan(number))
+        return std::nullopt;
+    const TagInfo &info = m_impl->infos[static_cast<std::size_t>(tag)];
+    if (info.keyType != KeyType::Number && info.keyType != KeyType::Date)
+        return std::nullopt;
+    std::string key(info.keyLength, '\0');
+    const auto out = reinterpret_cast<Byte *>(key.data());
+    if (info.keyLength == numberKeyLength) {
+        putNumberKey(number, out);
+        return key;
+    }
+    using Limits = std::numeric_limits<std::int32_t>;
+    if (number != std::floor(number) || number < Limits::min() || number > Limits::max())
+        return std::nullopt;
+    putIntegerKey(static_cast<std::int32_t>(number), out);
+    return key;
+}
+
+Status IndexFile::refresh()
+{
+    return m_impl->pages.refresh();
+}
+
+Result<std::vector<IndexEntry>> IndexFile::entriesFrom(int tag, std::string_view key,
+                                                       std::uint32_t record, std::size_t most)
+{
+    if (Status known = m_impl->checkTag(tag); !known.ok())
+        return known.error();
+    m_impl->pages.trim();
+    TreePath path;
+    const Result<bool> found =
+        IndexTree(m_impl->pages, m_impl->at(tag).shape).seek(key, record, path);
+    if (!found.ok())
+        return found.error();
+    std::vector<IndexEntry> entries;
+    if (!*found)
+        return entries;
+    const IndexLeaf &leaf = path.leaf().page->leaf;
+    const std::size_t first = path.leaf().entry;
+    const std::size_t end = first + std::min(most, leaf.count() - first);
+    entries.reserve(end - first);
+    for (std::size_t i = first; i < end; ++i)
+        entries.push_back({std::string(leaf.key(i)), leaf.record(i)});
+    return entries;
+}
+
+Result<std::vector<IndexEntry>> IndexFile::entriesBefore(int tag, std::string_view key,
+                                                         std::uint32_t record, std::size_t most)
+{
+    if (Status known = m_impl->checkTag(tag); !known.ok())
+        return known.error();
+    m_impl->pages.trim();
+    TreePath path;
+    const Result<bool> found =
+        IndexTree(m_impl->pages, m_impl->at(tag).shape).seekBefore(key, record, path);
+    if (!found.ok())
+        return found.error();
+    std::vector<IndexEntry> entries;
+    if (!*found)
+        return entries;
+    const IndexLeaf &leaf = path.leaf().page->leaf;
+    const std::size_t end = path.leaf().entry + 1;
+    const std::size_t first = end - std::min(most, end);
+    entries.reserve(end - first);
+    for (std::size_t i = first; i < end; ++i)
+        entries.push_back({std::string(leaf.key(i)), leaf.record(i)});
+    return entries;
+}
+
+Status IndexFile::insert(int tag, std::string_view key, std::uint32_t record)
+{
+    if (Status fits = m_impl->checkKey(tag, key); !fits.ok())
+        return fits;
+    m_impl->pages.trim();
+    IndexTree tree(m_impl->pages, m_impl->at(tag).shape);
+    if (m_impl->at(tag).unique) {
+        TreePath path;
+        const Result<bool> found = tree.seek(key, 0, path);
+        if (!found.ok())
+            return found.error();
+        if (*found && path.leaf().page->leaf.key(path.leaf().entry) == key)
+            return {}; // such a tag keeps the first record only
+    }
+    Status done = tree.insert(key, record);
+    if (!done.ok())
+        m_impl->pages.setBroken();
+    return done;
+}
+
+Status IndexFile::remove(int tag, std::string_view key, std::uint32_t record)
+{
+    if (Status fits = m_impl->checkKey(tag, key); !fits.ok())
+        return fits;
+    m_impl->pages.trim();
+    IndexTree tree(m_impl->pages, m_impl->at(tag).shape);
+    if (m_impl->at(tag).unique) {
+        TreePath path;
+        const Result<bool> found = tree.seek(key, record, path);
+        if (!found.ok())
+            return found.error();
+        const TreePath::Step &leaf = path.leaf();
+        if (!*found || leaf.page->leaf.key(leaf.entry) != key ||
+            leaf.page->leaf.record(leaf.entry) != record)
+            return {}; // another record of the same key stands for this one
+    }
+    Status done = tree.remove(key, record);
+    if (!done.ok())
+        m_impl->pages.setBroken();
+    return done;
+}
+
+std::vector<PageChange> IndexFile::changes() const
+{
+    return m_impl->pages.changes();
+}
+
+Status IndexFile::commit()
+{
+    return m_impl->pages.commit();
+}
+
+void IndexFile::discard()
+{
+    m_impl->pages.discard();
+}
+
+} // namespace norvane::engine
