@@ -1,9 +1,10 @@
 #include "common/ui/FormWindow.h"
 
-#include <QEvent>
+#include <QKeyEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QPointer>
+#include <QPushButton>
 
 #include <algorithm>
 #include <functional>
@@ -49,6 +50,26 @@ bool closeAll(const std::function<bool(const FormWindow *)> &wanted)
     return std::none_of(openForms().begin(), openForms().end(), wanted);
 }
 
+bool isEnter(const QKeyEvent *event)
+{
+    return event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+}
+
+QPushButton *buttonForKey(const QWidget *form, const QKeyEvent *event)
+{
+    if (event->matches(QKeySequence::Cancel))
+        return form->findChild<QPushButton *>(QStringLiteral("CancelButton"));
+    if (!isEnter(event))
+        return nullptr;
+    if (auto *focused = qobject_cast<QPushButton *>(form->focusWidget()))
+        return focused;
+    const QList<QPushButton *> buttons = form->findChildren<QPushButton *>();
+    const auto found = std::find_if(buttons.begin(), buttons.end(), [](const QPushButton *button) {
+        return button->isDefault() && button->isVisible();
+    });
+    return found == buttons.end() ? nullptr : *found;
+}
+
 } // namespace
 
 FormWindow::FormWindow(QWidget *parent) : QWidget(parent)
@@ -79,6 +100,15 @@ bool FormWindow::event(QEvent *event)
         registry().append(this);
     }
     return done;
+}
+
+// A dialog has this from the toolkit, a window beside others has not.
+void FormWindow::keyPressEvent(QKeyEvent *event)
+{
+    if (QPushButton *button = buttonForKey(this, event))
+        button->click(); // does nothing while it is disabled
+    else
+        QWidget::keyPressEvent(event);
 }
 
 const QList<FormWindow *> &openForms()

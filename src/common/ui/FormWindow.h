@@ -22,6 +22,8 @@ public:
 
 protected:
     bool event(QEvent *event) override;
+    // Esc presses CancelButton. Enter presses the button that has the focus, else the default one.
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     QString m_tag;

@@ -146,7 +146,11 @@ public:
         if (m_form)
             m_form->setMessage(message);
     }
-    bool cancelled() const override { return m_form.isNull() || m_form->m_bCancel; }
+    bool cancelled() const override
+    {
+        const frmProgress *form = m_form.data();
+        return form == nullptr || form->m_bCancel;
+    }
 
 private:
     QPointer<frmProgress> m_form;

@@ -17,15 +17,15 @@ class ListView : public QTreeView
     Q_OBJECT
 public:
     struct Column {
-        QString title;
-        QString key;         // short name, "N"
+        QString title = {};
+        QString key = {};    // short name, "N"
         int width = 120;     // pixels at 96 dpi, a first guess
         bool hidden = false; // sorts only
         bool right = false;  // numbers
     };
     struct Row {
-        QString key;
-        QStringList texts; // one a column
+        QString key = {};
+        QStringList texts = {}; // one a column
     };
 
     explicit ListView(QWidget *parent = nullptr);

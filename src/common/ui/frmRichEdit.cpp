@@ -5,8 +5,6 @@
 #include "common/ui/FixedFont.h"
 #include "common/ui/Icons.h"
 
-#include <QShortcut>
-
 frmRichEdit::frmRichEdit(QWidget *parent)
     : FormWindow(parent), ui(std::make_unique<Ui::frmRichEdit>())
 {
@@ -18,9 +16,6 @@ frmRichEdit::frmRichEdit(QWidget *parent)
         ui->txtRichEdit->copy();
     });
     connect(ui->CancelButton, &QPushButton::clicked, this, &QWidget::close);
-    auto *escape = new QShortcut(QKeySequence(Qt::Key_Escape), this);
-    escape->setContext(Qt::WidgetWithChildrenShortcut);
-    connect(escape, &QShortcut::activated, this, &QWidget::close);
 }
 
 frmRichEdit::~frmRichEdit() = default;

@@ -1,0 +1,54 @@
+#include "support/RecordingSwitchboard.h"
+
+RecordingSwitchboard::~RecordingSwitchboard()
+{
+    installSwitchboard(nullptr);
+    for (const QPointer<QWidget> &child : std::as_const(m_children))
+        delete child.data();
+}
+
+void RecordingSwitchboard::ShowCustomer(qint32 rowid, bool bEdit)
+{
+    m_calls.append(QStringLiteral("ShowCustomer %1 %2")
+                       .arg(rowid)
+                       .arg(bEdit ? QLatin1String("true") : QLatin1String("false")));
+}
+
+void RecordingSwitchboard::NotifyCustomer(qint32 custid, int what, qint32 id)
+{
+    m_calls.append(QStringLiteral("NotifyCustomer %1 %2 %3").arg(custid).arg(what).arg(id));
+}
+
+void RecordingSwitchboard::LookupCustomer()
+{
+    m_calls.append(QStringLiteral("LookupCustomer"));
+}
+
+void RecordingSwitchboard::NewCustomer()
+{
+    m_calls.append(QStringLiteral("NewCustomer"));
+}
+
+void RecordingSwitchboard::EditCategory(qint32 type)
+{
+    m_calls.append(QStringLiteral("EditCategory %1").arg(type));
+    if (onEditCategory)
+        onEditCategory(type);
+}
+
+void RecordingSwitchboard::SendMail(const QString &to, const QString &subject, const QString &body)
+{
+    m_mails.append({to, subject, body});
+}
+
+void RecordingSwitchboard::showChild(QWidget *form)
+{
+    form->setAttribute(Qt::WA_DeleteOnClose);
+    m_children.append(form);
+    form->show();
+}
+
+void RecordingSwitchboard::showHelp(int topic)
+{
+    m_calls.append(QStringLiteral("showHelp %1").arg(topic));
+}

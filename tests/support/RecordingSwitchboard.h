@@ -1,0 +1,51 @@
+// A switchboard that notes what the screens ask for. Installed while it lives. Windows handed over
+// are shown on their own, and closed at the end.
+#pragma once
+
+#include "common/ui/Switchboard.h"
+
+#include <QList>
+#include <QPointer>
+#include <QString>
+#include <QStringList>
+#include <QWidget>
+
+#include <functional>
+
+class RecordingSwitchboard : public Switchboard
+{
+public:
+    struct Mail {
+        QString to;
+        QString subject;
+        QString body;
+    };
+
+    RecordingSwitchboard() { installSwitchboard(this); }
+    ~RecordingSwitchboard() override;
+    RecordingSwitchboard(const RecordingSwitchboard &) = delete;
+    RecordingSwitchboard &operator=(const RecordingSwitchboard &) = delete;
+
+    // "ShowCustomer 42 false", "NotifyCustomer 42 1 7", "LookupCustomer", "EditCategory 3",
+    // "showHelp 1300", in the order called.
+    const QStringList &calls() const { return m_calls; }
+    void forget() { m_calls.clear(); }
+    const QList<Mail> &mails() const { return m_mails; }
+    const QList<QPointer<QWidget>> &children() const { return m_children; }
+    // Stands for what a list editor does while it is open.
+    std::function<void(qint32 type)> onEditCategory;
+
+    void ShowCustomer(qint32 rowid, bool bEdit) override;
+    void NotifyCustomer(qint32 custid, int what, qint32 id) override;
+    void LookupCustomer() override;
+    void NewCustomer() override;
+    void EditCategory(qint32 type) override;
+    void SendMail(const QString &to, const QString &subject, const QString &body) override;
+    void showChild(QWidget *form) override;
+    void showHelp(int topic) override;
+
+private:
+    QStringList m_calls;
+    QList<Mail> m_mails;
+    QList<QPointer<QWidget>> m_children;
+};

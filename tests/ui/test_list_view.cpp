@@ -1,0 +1,222 @@
+// The list of the screens: keys, selection, sorting, and what it does with very many rows.
+#include "common/ui/ListView.h"
+
+#include <gtest/gtest.h>
+
+#include <QHeaderView>
+#include <QSignalSpy>
+#include <QTest>
+
+namespace
+{
+
+QString key(int id)
+{
+    return QLatin1Char('N') + QString::number(id);
+}
+
+class ListViewTest : public ::testing::Test
+{
+protected:
+    ListViewTest()
+    {
+        m_list.setColumns({{QStringLiteral("Name")},
+                           {QStringLiteral("Date")},
+                           {QStringLiteral("Sort"), {}, 0, true}});
+        m_list.setSortSubstitute(1, 2);
+        m_list.resize(400, 200);
+        m_list.show();
+    }
+
+    void add(int id, const QString &name, const QString &date = {}, const QString &sort = {})
+    {
+        m_list.addItem(key(id), {name, date, sort});
+    }
+    QStringList names() const
+    {
+        QStringList result;
+        for (int row = 0; row < m_list.itemCount(); ++row)
+            result.append(m_list.itemText(row, 0));
+        return result;
+    }
+    void clickHeading(int column)
+    {
+        QHeaderView *header = m_list.header();
+        const QPoint at(header->sectionViewportPosition(column) + 12, header->height() / 2);
+        QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, at);
+    }
+
+    ListView m_list;
+};
+
+TEST_F(ListViewTest, SortsTextWithoutRegardToCaseAndKeepsEqualRowsInOrder)
+{
+    add(1, QStringLiteral("beta"));
+    add(2, QStringLiteral("Alpha"));
+    add(3, QStringLiteral("BETA"));
+    add(4, QStringLiteral("\u00c9mile")); // beside its plain letter, not behind Z
+    add(5, QStringLiteral("Zoe"));
+    m_list.sortBy(0, Qt::AscendingOrder);
+    EXPECT_EQ(m_list.rowOfKey(key(2)), 0);
+    EXPECT_LT(m_list.rowOfKey(key(1)), m_list.rowOfKey(key(3)));
+    m_list.sortBy(0, Qt::DescendingOrder);
+    EXPECT_EQ(m_list.rowOfKey(key(5)), 0);
+    EXPECT_LT(m_list.rowOfKey(key(1)), m_list.rowOfKey(key(3)));
+}
+
+TEST_F(ListViewTest, NumbersPaddedWithBlanksSortAsNumbers)
+{
+    for (const int id : {1000, 999, 123456, 20000})
+        add(id, QString::number(id).rightJustified(6));
+    m_list.sortBy(0, Qt::AscendingOrder);
+    EXPECT_EQ(m_list.itemKey(0), key(999));
+    EXPECT_EQ(m_list.itemKey(1), key(1000));
+    EXPECT_EQ(m_list.itemKey(3), key(123456));
+}
+
+TEST_F(ListViewTest, EachHeadingClickTurnsTheOrderWhicheverColumnItIs)
+{
+    add(1, QStringLiteral("b"), QStringLiteral("2/1/2004"), QStringLiteral("20040201"));
+    add(2, QStringLiteral("a"), QStringLiteral("12/1/2003"), QStringLiteral("20031201"));
+    m_list.sortBy(0, Qt::AscendingOrder);
+    clickHeading(1);
+    EXPECT_EQ(m_list.sortColumn(), 2);
+    EXPECT_EQ(m_list.sortOrder(), Qt::DescendingOrder);
+    EXPECT_EQ(m_list.itemKey(0), key(1));
+    // The arrow stands in the heading that was clicked.
+    EXPECT_EQ(m_list.header()->sortIndicatorSection(), 1);
+    clickHeading(0);
+    EXPECT_EQ(m_list.sortColumn(), 0);
+    EXPECT_EQ(m_list.sortOrder(), Qt::AscendingOrder);
+    EXPECT_EQ(names(), (QStringList{QStringLiteral("a"), QStringLiteral("b")}));
+    EXPECT_EQ(m_list.header()->sortIndicatorSection(), 0);
+}
+
+TEST_F(ListViewTest, ASortedListStaysSortedWhenRowsComeIn)
+{
+    m_list.sortBy(0, Qt::AscendingOrder);
+    add(1, QStringLiteral("m"));
+    add(2, QStringLiteral("a"));
+    add(3, QStringLiteral("M"));
+    m_list.beginLoad();
+    add(4, QStringLiteral("c"));
+    EXPECT_EQ(m_list.itemCount(), 4);
+    m_list.addItems({{key(5), {QStringLiteral("b")}}});
+    m_list.endLoad();
+    EXPECT_EQ(names().join(u' '), QStringLiteral("a b c m M"));
+}
+
+TEST_F(ListViewTest, SelectionFollowsItsRowThroughASort)
+{
+    add(1, QStringLiteral("b"));
+    add(2, QStringLiteral("a"));
+    EXPECT_TRUE(LvSelectItem(&m_list, key(1)));
+    m_list.sortBy(0, Qt::AscendingOrder);
+    EXPECT_EQ(LvGetSelectedItemKey(&m_list), key(1));
+    EXPECT_EQ(LvNumItemsSelected(&m_list), 1);
+}
+
+TEST_F(ListViewTest, KeysAreExactAndTextsIgnoreCase)
+{
+    add(1, QStringLiteral("Stra\u00dfe"));
+    add(2, QStringLiteral("Smith"));
+    EXPECT_FALSE(LvSelectItem(&m_list, QStringLiteral("n2")));
+    EXPECT_FALSE(LvSelectItem(&m_list, QString()));
+    EXPECT_FALSE(LvIsItemSelected(&m_list));
+    EXPECT_EQ(LvGetSelectedItemText(&m_list), QString());
+    EXPECT_TRUE(LvSelectItemByText(&m_list, QStringLiteral("SMITH")));
+    EXPECT_EQ(LvGetSelectedItemKey(&m_list), key(2));
+    EXPECT_FALSE(LvSelectItemByText(&m_list, QStringLiteral("Smit")));
+}
+
+TEST_F(ListViewTest, SelectsAllNoneAndTheOthers)
+{
+    EXPECT_FALSE(LvSelectAllItems(&m_list, true));
+    LvSelectFirstItem(&m_list);
+    LvInvertSelection(&m_list);
+    for (int id = 1; id <= 4; ++id)
+        add(id, QString::number(id));
+    LvSelectFirstItem(&m_list);
+    LvInvertSelection(&m_list);
+    EXPECT_EQ(LvNumItemsSelected(&m_list), 3);
+    EXPECT_EQ(LvGetSelectedItemKey(&m_list), key(2));
+    EXPECT_TRUE(LvSelectAllItems(&m_list, true));
+    EXPECT_EQ(LvNumItemsSelected(&m_list), 4);
+    EXPECT_TRUE(LvSelectAllItems(&m_list, false));
+    EXPECT_FALSE(LvIsItemSelected(&m_list));
+}
+
+TEST_F(ListViewTest, EnterAndDoubleClickActivateAndEnterWithoutASelectionGoesOn)
+{
+    QSignalSpy activated(&m_list, &ListView::itemActivated);
+    add(7, QStringLiteral("x"));
+    QTest::keyClick(&m_list, Qt::Key_Return);
+    EXPECT_TRUE(activated.isEmpty());
+    LvSelectFirstItem(&m_list);
+    QTest::keyClick(&m_list, Qt::Key_Enter);
+    const QPoint first = m_list.visualRect(m_list.model()->index(0, 0)).center();
+    QTest::mouseClick(m_list.viewport(), Qt::LeftButton, {}, first);
+    QTest::mouseDClick(m_list.viewport(), Qt::LeftButton, {}, first);
+    ASSERT_EQ(activated.size(), 2);
+    EXPECT_EQ(activated[0][0].toString(), key(7));
+    EXPECT_EQ(activated[1][0].toString(), key(7));
+}
+
+TEST_F(ListViewTest, RemovesByKeyAndClearKeepsTheOrderForTheNextLoad)
+{
+    m_list.sortBy(0, Qt::DescendingOrder);
+    add(1, QStringLiteral("a"));
+    add(2, QStringLiteral("b"));
+    EXPECT_TRUE(m_list.removeItem(key(2)));
+    EXPECT_FALSE(m_list.removeItem(key(2)));
+    EXPECT_EQ(names(), QStringList(QStringLiteral("a")));
+    m_list.clearItems();
+    EXPECT_EQ(m_list.itemCount(), 0);
+    EXPECT_EQ(m_list.rowOfKey(key(1)), -1);
+    add(3, QStringLiteral("c"));
+    add(4, QStringLiteral("d"));
+    EXPECT_EQ(m_list.itemKey(0), key(4));
+}
+
+TEST_F(ListViewTest, HiddenColumnsStayHiddenAndWidthsAreGivenBack)
+{
+    m_list.setColumnWidth(0, 222);
+    add(1, QStringLiteral("a"));
+    m_list.clearItems();
+    EXPECT_TRUE(m_list.isColumnHidden(2));
+    EXPECT_EQ(m_list.columns()[0].width, 222 * 96 / m_list.logicalDpiX());
+    EXPECT_EQ(m_list.columns()[2].width, 0);
+}
+
+TEST_F(ListViewTest, AnEmptyListSaysWhy)
+{
+    const QImage blank = m_list.grab().toImage();
+    m_list.setEmptyText(QStringLiteral("No issues yet."));
+    EXPECT_NE(m_list.grab().toImage(), blank);
+}
+
+TEST_F(ListViewTest, TakesAHundredThousandRowsSortedAndSelected)
+{
+    constexpr int count = 100'000;
+    m_list.sortBy(0, Qt::AscendingOrder);
+    QList<ListView::Row> rows;
+    for (int id = 0; id < count; ++id)
+        rows.append(
+            {key(id), {QStringLiteral("Name %1").arg(id * 7919 % count, 6, 10, QChar(u'0'))}});
+    m_list.beginLoad();
+    m_list.addItems(std::move(rows));
+    m_list.endLoad();
+    ASSERT_EQ(m_list.itemCount(), count);
+    EXPECT_EQ(m_list.itemText(0, 0), QStringLiteral("Name 000000"));
+    EXPECT_EQ(m_list.itemText(count - 1, 0), QStringLiteral("Name 099999"));
+    EXPECT_TRUE(LvSelectAllItems(&m_list, true));
+    EXPECT_EQ(LvNumItemsSelected(&m_list), count);
+    LVSort(&m_list, 0);
+    EXPECT_EQ(m_list.itemText(0, 0), QStringLiteral("Name 099999"));
+    EXPECT_EQ(LvNumItemsSelected(&m_list), count);
+    EXPECT_TRUE(LvSelectItem(&m_list, key(4711)));
+    EXPECT_EQ(LvGetSelectedItemText(&m_list),
+              QStringLiteral("Name %1").arg(4711 * 7919 % count, 6, 10, QChar(u'0')));
+}
+
+} // namespace
