@@ -1,5 +1,7 @@
 #include "ctl/Advice.h"
 
+#include <algorithm>
+
 namespace ctl
 {
 
@@ -41,6 +43,15 @@ QString restore()
     return QStringLiteral("Restore all files of the folder together from your last backup.");
 }
 
+// "row 17, NOTES: ..."
+bool namesMemoField(const QString &line, const schema::TableInfo &table)
+{
+    return std::any_of(table.def.fields.begin(), table.def.fields.end(), [&](const auto &field) {
+        const QString name = QString::fromStdString(field.name);
+        return field.type == 'M' && line.contains(QString(u", " + name + u':'));
+    });
+}
+
 bool isIndex(const QString &file)
 {
     return file.endsWith(QLatin1String(".cdx"), Qt::CaseInsensitive);
@@ -63,17 +74,20 @@ QString failureText(const Error &error)
     return text;
 }
 
-QString fileOfFinding(const QString &line, const schema::TableInfo &table)
+ExplainedLine explainLine(const QString &line, const schema::TableInfo &table)
 {
-    const auto speaksOf = [&](QLatin1String word) {
-        return line.contains(word, Qt::CaseInsensitive);
-    };
-    if (speaksOf(QLatin1String(".cdx")) || speaksOf(QLatin1String("tag ")) ||
-        speaksOf(QLatin1String("index")))
-        return table.indexFile();
-    if (table.hasMemo && (speaksOf(QLatin1String(".fpt")) || speaksOf(QLatin1String("memo"))))
-        return table.memoFile();
-    return table.dataFile();
+    // "C:\...\nvncat.cdx: what is wrong"
+    const QStringList files = table.files();
+    for (const QString &file : files) {
+        const qsizetype name = line.indexOf(file + u": ", 0, Qt::CaseInsensitive);
+        if (name >= 0)
+            return {file, line.mid(name + file.size() + 2)};
+    }
+    if (line.startsWith(QLatin1String("tag ")) || line.contains(QLatin1String("index")))
+        return {table.indexFile(), line};
+    if (table.hasMemo && (line.contains(QLatin1String("memo")) || namesMemoField(line, table)))
+        return {table.memoFile(), line};
+    return {table.dataFile(), line};
 }
 
 QString adviceFor(const QString &file, ErrorKind kind)

@@ -11,8 +11,12 @@ namespace ctl
 
 QString failureText(const norvane::engine::Error &error);
 
-// The file of the table that a line of the engine's check is about.
-QString fileOfFinding(const QString &line, const schema::TableInfo &table);
+// A line of the engine's check, taken apart: the file of the table it is about, and what is wrong.
+struct ExplainedLine {
+    QString file;
+    QString text;
+};
+ExplainedLine explainLine(const QString &line, const schema::TableInfo &table);
 
 QString adviceFor(const QString &file, norvane::engine::ErrorKind kind);
 QString adviceForMissing(const schema::TableInfo &table, const QString &file);

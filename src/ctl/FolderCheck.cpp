@@ -15,7 +15,7 @@ using namespace norvane::engine;
 namespace
 {
 
-constexpr int MostFindingsOfAFile = 20;
+constexpr std::size_t MostFindingsOfATable = 20;
 constexpr int LockAttempts = 10;
 constexpr qint32 FirstIdentifier = 1000;
 
@@ -100,19 +100,14 @@ void FolderCheck::checkTable(const schema::TableInfo &table)
     }
     checkFields(table, handle);
     const std::vector<std::string> lines = d4check(handle);
-    int shown = 0;
-    for (const std::string &line : lines) {
-        const QString text = QString::fromStdString(line);
-        const QString file = fileOfFinding(text, table);
-        if (++shown > MostFindingsOfAFile) {
-            add(table.dataFile(),
-                QStringLiteral("%1 more findings of this kind")
-                    .arg(static_cast<qint64>(lines.size()) - MostFindingsOfAFile),
-                adviceFor(file, ErrorKind::Damaged));
-            break;
-        }
-        add(file, text, adviceFor(file, ErrorKind::Damaged));
+    for (std::size_t i = 0; i < std::min(lines.size(), MostFindingsOfATable); ++i) {
+        const ExplainedLine line = explainLine(QString::fromStdString(lines[i]), table);
+        add(line.file, line.text, adviceFor(line.file, ErrorKind::Damaged));
     }
+    if (lines.size() > MostFindingsOfATable)
+        add(table.dataFile(),
+            QStringLiteral("%1 more findings like these").arg(lines.size() - MostFindingsOfATable),
+            QStringLiteral("The advice above holds for them too."));
     checkRows(table, handle);
     d4close(handle);
 }
@@ -150,20 +145,23 @@ void FolderCheck::checkRows(const schema::TableInfo &table, Handle handle)
     if (!facts.read)
         add(table.dataFile(), failureText(lastError(m_session)),
             adviceFor(table.dataFile(), ErrorKind::Damaged));
-    QList<qint32> doubled;
+    checkIdentifiers(table, facts);
+}
+
+void FolderCheck::checkIdentifiers(const schema::TableInfo &table, const RowFacts &facts)
+{
+    QList<qint32> wrong;
     for (auto it = facts.live.cbegin(); it != facts.live.cend(); ++it)
         if (it.value() > 1 || it.key() < 1)
-            doubled << it.key();
-    std::sort(doubled.begin(), doubled.end());
-    for (qsizetype i = 0; i < std::min<qsizetype>(doubled.size(), MostFindingsOfAFile); ++i)
-        add(table.dataFile(),
-            doubled[i] < 1 ? QStringLiteral("%1 rows have the rowid %2, which no record may have")
-                                 .arg(facts.live.value(doubled[i]))
-                                 .arg(doubled[i])
-                           : QStringLiteral("%1 rows share the rowid %2")
-                                 .arg(facts.live.value(doubled[i]))
-                                 .arg(doubled[i]),
-            adviceForIdentifiers());
+            wrong << it.key();
+    std::sort(wrong.begin(), wrong.end());
+    const auto most = static_cast<qsizetype>(MostFindingsOfATable);
+    for (const qint32 id : wrong.mid(0, most)) {
+        const QString text = id < 1
+                                 ? QStringLiteral("%1 rows have the rowid %2, which no record has")
+                                 : QStringLiteral("%1 rows share the rowid %2");
+        add(table.dataFile(), text.arg(facts.live.value(id)).arg(id), adviceForIdentifiers());
+    }
 }
 
 void FolderCheck::checkCounters()

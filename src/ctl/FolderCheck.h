@@ -43,6 +43,7 @@ private:
     void checkTable(const schema::TableInfo &table);
     void checkFields(const schema::TableInfo &table, Handle handle);
     void checkRows(const schema::TableInfo &table, Handle handle);
+    void checkIdentifiers(const schema::TableInfo &table, const RowFacts &facts);
     void checkCounters();
     void checkCounter(const schema::TableInfo &table, const QList<qint32> &counters);
     void checkReferences();
