@@ -1,0 +1,117 @@
+// The window: its life, its list and its commands. The searches are in frmCustomerListLoad.cpp.
+#include "search/frmCustomerList.h"
+
+#include "common/base/Failure.h"
+#include "common/ui/Switchboard.h"
+#include "db/clsCustomLabels.h"
+#include "db/clsDB.h"
+#include "search/frmLookupCustomer.h"
+#include "ui_frmCustomerList.h"
+
+#include <QCloseEvent>
+#include <QScopedValueRollback>
+#include <QShortcut>
+
+frmCustomerList::frmCustomerList(QWidget *parent)
+    : FormWindow(parent), ui(std::make_unique<Ui::frmCustomerList>())
+{
+    ui->setupUi(this);
+    setUpList();
+    addShortcuts();
+    connect(ui->lvCustomers, &ListView::itemActivated, this, &frmCustomerList::openCustomer);
+    connect(ui->lvCustomers, &ListView::itemSelectionChanged, this, &frmCustomerList::SetUI);
+    connect(ui->cmdProperties, &QPushButton::clicked, this,
+            [this] { openCustomer(LvGetSelectedItemKey(ui->lvCustomers)); });
+    connect(ui->cmdRefresh, &QPushButton::clicked, this, &frmCustomerList::reload);
+    connect(ui->CancelButton, &QPushButton::clicked, this, &QWidget::close);
+}
+
+frmCustomerList::~frmCustomerList() = default;
+
+void frmCustomerList::setUpList()
+{
+    const auto label = [](const char *field) {
+        return CustomLabels.GetCustomerLabelName(QString::fromLatin1(field), false);
+    };
+    ui->lvCustomers->setColumns({
+        {tr("Name"), QStringLiteral("N"), 190},
+        {label("company"), QStringLiteral("C"), 210},
+        {label("custno"), QStringLiteral("O"), 120},
+        {label("workphone"), QStringLiteral("P"), 120},
+        {label("city"), QStringLiteral("L"), 120},
+    });
+}
+
+void frmCustomerList::addShortcuts()
+{
+    const auto *refresh = new QShortcut(QKeySequence::Refresh, this);
+    connect(refresh, &QShortcut::activated, this, &frmCustomerList::reload);
+    const auto *close = new QShortcut(Qt::Key_Escape, this);
+    connect(close, &QShortcut::activated, this, &QWidget::close);
+    for (QShortcut *shortcut : findChildren<QShortcut *>())
+        shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+}
+
+void frmCustomerList::Init(const QString &sSearchStr, qint32 SearchType)
+{
+    m_sSearchStr = sSearchStr;
+    m_SearchType = SearchType;
+    LoadData();
+    SetUI();
+}
+
+void frmCustomerList::reload()
+{
+    LoadData();
+    SetUI();
+}
+
+// Pending window events run during a load; a second one must not begin inside the first.
+void frmCustomerList::LoadData()
+{
+    if (m_bLoading)
+        return;
+    const QScopedValueRollback loading(m_bLoading, true);
+    const QString selected = LvGetSelectedItemKey(ui->lvCustomers);
+    const Handle table = gDB.OpenTable(gDB.CustomerTable());
+    if (table < 1)
+        return;
+    ui->lvCustomers->clearItems();
+    ui->lvCustomers->beginLoad();
+    m_bCancelled = false;
+    guarded("frmCustomerList_LoadData", [&] { runSearch(table); });
+    gDB.CloseTable(table);
+    ui->lvCustomers->sortBy(0, Qt::AscendingOrder);
+    ui->lvCustomers->endLoad();
+    ui->lvCustomers->setEmptyText(m_bCancelled ? tr("The search was cancelled.")
+                                  : m_sSearchStr.isEmpty()
+                                      ? tr("There are no customers in this database yet.")
+                                      : tr("No customer matches this search."));
+    if (!LvSelectItem(ui->lvCustomers, selected))
+        LvSelectFirstItem(ui->lvCustomers);
+    DisplayResultCnt();
+}
+
+void frmCustomerList::SetUI()
+{
+    ui->cmdProperties->setEnabled(LvIsItemSelected(ui->lvCustomers));
+}
+
+void frmCustomerList::DisplayResultCnt()
+{
+    ui->lblCount->setText(QString::number(ui->lvCustomers->itemCount()) + tr(" Customer(s)"));
+}
+
+void frmCustomerList::openCustomer(const QString &key)
+{
+    if (!key.isEmpty())
+        switchboard().ShowCustomer(key.mid(1).toInt(), false);
+}
+
+void frmCustomerList::closeEvent(QCloseEvent *event)
+{
+    if (m_bLoading)
+        event->ignore();
+    else
+        FormWindow::closeEvent(event);
+}

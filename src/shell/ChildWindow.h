@@ -1,0 +1,22 @@
+// The frame of a child window in the main window. Opens at the size its content wants, never
+// larger than the main window, and remembers the size a person gave it by the kind of window.
+#pragma once
+
+#include <QMdiSubWindow>
+
+class ChildWindow : public QMdiSubWindow
+{
+    Q_OBJECT
+public:
+    explicit ChildWindow(QWidget *form);
+
+    // Call once the frame is in its area and shown.
+    void openAtItsSize();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void rememberSize() const;
+    QString sizeName() const;
+};

@@ -1,0 +1,14 @@
+// Arranging the child windows of an area by rows, by columns, or as icons along the bottom.
+#pragma once
+
+class QMdiArea;
+
+enum class Tiling {
+    Horizontally, // one above the other, each over the whole width
+    Vertically    // side by side
+};
+
+// Minimised windows stay where they are.
+void tileWindows(QMdiArea *area, Tiling tiling);
+// Lines up the minimised windows from the bottom left.
+void arrangeIcons(QMdiArea *area);

@@ -1,0 +1,94 @@
+#include "shell/Startup.h"
+
+#include "common/base/AppInfo.h"
+#include "common/base/Failure.h"
+#include "common/base/Prompts.h"
+#include "common/base/clsSystem.h"
+#include "common/ui/GuiDialogs.h"
+#include "db/clsDB.h"
+
+#include <QCoreApplication>
+#include <QDir>
+
+QString Startup::folderFromCommandLine(const QStringList &arguments)
+{
+    return gSys.RemoveSurroundingQuote(arguments.join(u' ').trimmed());
+}
+
+Startup::Startup(QString folder) : m_folder(std::move(folder))
+{
+    connect(&m_instance, &SingleInstance::raiseWanted, this, &Startup::raiseMain);
+}
+
+bool Startup::run()
+{
+    if (!mayRun(m_instance, m_folder))
+        return false;
+    step([this] { showSplash(); });
+    step([this] { m_main = std::make_unique<frmMain>(); });
+    step([this] { waitForSplash(); });
+    m_splash.reset();
+    if (!m_main)
+        return false;
+    step([this] {
+        guidialogs::setMainWindow(m_main.get());
+        m_main->show();
+    });
+    step([this] { openDatabase(); });
+    step([this] { m_main->SetUI(); });
+    return true;
+}
+
+void Startup::step(const std::function<void()> &body)
+{
+    try {
+        body();
+    } catch (...) {
+        m_splash.reset();
+        reportCurrentException("Startup");
+    }
+}
+
+bool Startup::mayRun(SingleInstance &instance, const QString &folder)
+{
+    if (instance.begin() || !folder.isEmpty())
+        return true;
+    prompts::warn(app::title() + tr(" is already running!"));
+    instance.raiseRunning();
+    return false;
+}
+
+void Startup::showSplash()
+{
+    m_splash = std::make_unique<frmSplash>();
+    m_splash->setWindowFlags(Qt::SplashScreen | Qt::FramelessWindowHint
+                             | Qt::WindowStaysOnTopHint);
+    m_splash->setSmartUnload(true);
+    m_splash->show();
+    m_splash->repaint();
+}
+
+void Startup::waitForSplash()
+{
+    while (m_splash && !m_splash->minimumTimePassed())
+        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+}
+
+void Startup::openDatabase()
+{
+    if (m_folder.isEmpty())
+        gDB.OpenLastDB();
+    else // remembered for starts from other places
+        gDB.OpenDBOnCommandLine(QDir::toNativeSeparators(
+            QDir::cleanPath(QDir(QDir::fromNativeSeparators(m_folder)).absolutePath())));
+}
+
+void Startup::raiseMain()
+{
+    if (!m_main)
+        return;
+    m_main->setWindowState(m_main->windowState() & ~Qt::WindowMinimized);
+    m_main->show();
+    m_main->raise();
+    m_main->activateWindow();
+}

@@ -1,0 +1,70 @@
+// The child windows and the Window menu.
+#include "shell/frmMain.h"
+
+#include "common/ui/FormWindow.h"
+#include "shell/ChildWindow.h"
+#include "shell/MdiArrange.h"
+#include "ui_frmMain.h"
+
+void frmMain::connectWindowMenu()
+{
+    connect(ui->mnuWindowTH, &QAction::triggered, this,
+            [this] { tileWindows(ui->mdiArea, Tiling::Horizontally); });
+    connect(ui->mnuWindowTV, &QAction::triggered, this,
+            [this] { tileWindows(ui->mdiArea, Tiling::Vertically); });
+    connect(ui->mnuWindowCascade, &QAction::triggered, ui->mdiArea,
+            &QMdiArea::cascadeSubWindows);
+    connect(ui->mnuWindowArrangeIcons, &QAction::triggered, this,
+            [this] { arrangeIcons(ui->mdiArea); });
+    connect(ui->mnuWindowCloseAll, &QAction::triggered, this, &frmMain::closeAllWindows);
+    connect(ui->mnuWindow, &QMenu::aboutToShow, this, &frmMain::fillWindowMenu);
+}
+
+void frmMain::showChild(QWidget *form)
+{
+    auto *frame = new ChildWindow(form);
+    frame->setWindowIcon(windowIcon());
+    ui->mdiArea->addSubWindow(frame);
+    frame->show();
+    frame->openAtItsSize();
+    ui->mdiArea->setActiveSubWindow(frame);
+}
+
+void frmMain::closeAllWindows()
+{
+    UnloadAll(QStringLiteral("MAINFORM"));
+}
+
+// The commands stay; behind them the open windows are listed anew each time.
+void frmMain::fillWindowMenu()
+{
+    const QList<QMdiSubWindow *> windows = ui->mdiArea->subWindowList();
+    bool listed = false; // entries of the time before
+    for (QAction *entry : ui->mnuWindow->actions()) {
+        if (listed)
+            delete entry;
+        else
+            entry->setEnabled(!windows.isEmpty());
+        listed = listed || entry == ui->mnuWindowCloseAll;
+    }
+    if (!windows.isEmpty())
+        ui->mnuWindow->addSeparator();
+    for (int at = 0; at < windows.size(); ++at)
+        listWindow(windows[at], at + 1);
+}
+
+void frmMain::listWindow(QMdiSubWindow *window, int number)
+{
+    QString title = window->windowTitle();
+    title.replace(u'&', QLatin1String("&&"));
+    if (number < 10)
+        title.prepend(QString(u'&' + QString::number(number) + u' '));
+    QAction *entry = ui->mnuWindow->addAction(title);
+    entry->setCheckable(true);
+    entry->setChecked(window == ui->mdiArea->activeSubWindow());
+    connect(entry, &QAction::triggered, window, [this, window] {
+        if (window->isMinimized())
+            window->showNormal();
+        ui->mdiArea->setActiveSubWindow(window);
+    });
+}
