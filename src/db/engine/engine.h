@@ -1,7 +1,8 @@
 // The engine's face: sessions, tables, rows, fields, tags and locks as plain functions over
 // integer handles. Handles are above 0; 0 means none. Results are 16-bit codes: 0 success (found,
 // positioned), r4locked when another session holds the record; any other value is a failure or
-// "no row", and lastError() tells more. All text is bytes of code page 1252. One thread.
+// "no row", and lastError() tells more. All text is bytes of code page 1252, paths are bytes as
+// the file system has them. One thread. A handle that is not (or no longer) one gives a failure.
 #pragma once
 
 #include "db/engine/Status.h"
@@ -44,7 +45,8 @@ void code4errTagName(Handle session, int flag);       // 1 reports unknown tag n
 Code code4errorCode(Handle session, int value);       // sets, gives the one before
 // What failed last in the session; kind None when nothing did.
 const Error &lastError(Handle session);
-// Called for each engine failure that is not an expected answer; empty switches it off.
+// Called for each engine failure that is not an expected answer (a row locked elsewhere, a table
+// that d4open does not find or another session has alone); empty switches it off.
 void code4errorHandler(Handle session, std::function<void(const Error &)> handler);
 // Called between polls while waiting for a lock, with the time waited so far.
 void code4waitHandler(Handle session, std::function<void(std::chrono::milliseconds)> handler);
@@ -73,14 +75,19 @@ Code d4seekNext(Handle table, std::string_view key);
 Code d4seekNextDouble(Handle table, double key);
 
 // ---- locks and writes
-Code d4lock(Handle table, std::uint32_t record); // 0 is the append lock
-Code d4unlock(Handle table);                     // stores a pending change first
-Code d4flush(Handle table);
+// Reads the current row afresh once it is locked. Record 0 is the append lock: while it is held
+// no other session adds a row, and no row lock may be waited for.
+Code d4lock(Handle table, std::uint32_t record);
+Code d4unlock(Handle table);  // stores a pending change first; the locks go in any case
+Code d4flush(Handle table);   // stores a pending change
+void d4discard(Handle table); // forgets a pending change or a row begun
 Code d4delete(Handle table);
 bool d4deleted(Handle table);
+// Begins a new row: a copy of the current one, its memos blank. Nothing is stored before d4append;
+// a move forgets it.
 Code d4appendStartVB(Handle table, int useMemoEntries);
 Code d4blank(Handle table);
-Code d4append(Handle table);
+Code d4append(Handle table);  // the new row is current and stays locked until d4unlock
 Code d4reindex(Handle table); // REQUIRES: opened exclusively
 
 // ---- fields of the current row
@@ -91,6 +98,8 @@ const char *f4ptr(Handle field); // bytes in the row buffer, valid until the nex
 char f4type(Handle field);
 int f4decimals(Handle field);
 const char *f4name(Handle field);
+// Assigning to a row that is not locked (or, without lock enforcement, cannot be), or a value the
+// field cannot hold, leaves the field as it was and is reported.
 void f4assignLong(Handle field, std::int32_t value);
 void f4assignDouble(Handle field, double value);
 void f4assignNVB(Handle field, std::string_view text, std::uint32_t length);

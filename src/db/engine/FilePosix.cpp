@@ -1,0 +1,293 @@
+// The real files on Linux: positioned reads and writes, and open-file-description locks, which
+// stay with this open file whatever else the process opens and closes (docs/locking.md).
+#include "db/engine/File.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <filesystem>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/vfs.h>
+#include <unistd.h>
+
+namespace norvane::engine
+{
+
+namespace
+{
+
+ErrorKind kindOf(int number)
+{
+    switch (number) {
+    case ENOENT:
+    case ENOTDIR:
+        return ErrorKind::NotFound;
+    case EACCES:
+    case EPERM:
+    case EROFS:
+        return ErrorKind::ReadOnly;
+    case ENOSPC:
+    case EDQUOT:
+        return ErrorKind::NoSpace;
+    case EFBIG:
+        return ErrorKind::TooLarge;
+    case ESTALE:
+    case ENOTCONN:
+    case ENODEV:
+    case ENXIO:
+    case EHOSTDOWN:
+    case ESHUTDOWN:
+        return ErrorKind::Gone;
+    default:
+        return ErrorKind::Io;
+    }
+}
+
+Error systemError(int number, const std::string &path, const char *what, std::int64_t place = -1)
+{
+    return {kindOf(number), path, std::string(what) + ": " + std::strerror(number), place};
+}
+
+// Network folders show other hosts what was written at unlock only when it has been sent.
+bool liesOnNetwork(int descriptor)
+{
+    struct statfs info = {};
+    if (::fstatfs(descriptor, &info) != 0)
+        return false;
+    switch (static_cast<std::uint32_t>(info.f_type)) {
+    case 0x6969U:     // NFS
+    case 0x517BU:     // SMB
+    case 0xFF534D42U: // CIFS
+    case 0xFE534D42U: // SMB 2 and later
+    case 0x65735546U: // FUSE
+    case 0x01021997U: // 9P
+    case 0x5346414FU: // AFS
+        return true;
+    default:
+        return false;
+    }
+}
+
+class PosixFile final : public File
+{
+public:
+    PosixFile(int descriptor, std::string path, bool readOnly)
+        : m_descriptor(descriptor), m_path(std::move(path)), m_readOnly(readOnly)
+    {
+    }
+
+    ~PosixFile() override { ::close(m_descriptor); }
+
+    PosixFile(const PosixFile &) = delete;
+    PosixFile &operator=(const PosixFile &) = delete;
+
+    Result<std::size_t> read(std::uint64_t offset, ByteSpan into) override
+    {
+        std::size_t done = 0;
+        while (done < into.size()) {
+            const auto place = static_cast<off_t>(offset + done);
+            const ssize_t n = ::pread(m_descriptor, into.data() + done, into.size() - done, place);
+            if (n == 0)
+                break;
+            if (n > 0)
+                done += static_cast<std::size_t>(n);
+            else if (errno != EINTR)
+                return systemError(errno, m_path, "read", place);
+        }
+        return done;
+    }
+
+    Status write(std::uint64_t offset, ByteView bytes) override
+    {
+        if (m_readOnly)
+            return refusedWrite();
+        m_unsynced = true;
+        std::size_t done = 0;
+        while (done < bytes.size()) {
+            const auto place = static_cast<off_t>(offset + done);
+            const ssize_t n =
+                ::pwrite(m_descriptor, bytes.data() + done, bytes.size() - done, place);
+            if (n > 0)
+                done += static_cast<std::size_t>(n);
+            else if (n == 0)
+                return systemError(ENOSPC, m_path, "write", place);
+            else if (errno != EINTR)
+                return systemError(errno, m_path, "write", place);
+        }
+        return {};
+    }
+
+    Result<std::uint64_t> size() override
+    {
+        struct stat info = {};
+        if (::fstat(m_descriptor, &info) != 0)
+            return systemError(errno, m_path, "size");
+        return static_cast<std::uint64_t>(info.st_size);
+    }
+
+    Status resize(std::uint64_t size) override
+    {
+        if (m_readOnly)
+            return refusedWrite();
+        m_unsynced = true;
+        while (::ftruncate(m_descriptor, static_cast<off_t>(size)) != 0) {
+            if (errno != EINTR)
+                return systemError(errno, m_path, "resize");
+        }
+        return {};
+    }
+
+    Status sync() override
+    {
+        while (::fdatasync(m_descriptor) != 0) {
+            if (errno != EINTR)
+                return systemError(errno, m_path, "sync");
+        }
+        m_unsynced = false;
+        return {};
+    }
+
+    Status tryLock(std::uint64_t offset, std::uint64_t length, LockMode mode) override
+    {
+        return setLock(offset, length, mode == LockMode::Shared ? F_RDLCK : F_WRLCK);
+    }
+
+    Status unlock(std::uint64_t offset, std::uint64_t length) override
+    {
+        if (!m_unsynced)
+            return setLock(offset, length, F_UNLCK);
+        if (m_network == Network::NotAsked)
+            m_network = liesOnNetwork(m_descriptor) ? Network::Yes : Network::No;
+        const Status synced = m_network == Network::Yes ? sync() : Status();
+        Status unlocked = setLock(offset, length, F_UNLCK);
+        return synced.ok() ? unlocked : synced;
+    }
+
+    const std::string &path() const override { return m_path; }
+    bool readOnly() const override { return m_readOnly; }
+
+private:
+    enum class Network { NotAsked, No, Yes };
+
+    Error refusedWrite() const
+    {
+        return {ErrorKind::ReadOnly, m_path, "the file is open for reading only"};
+    }
+
+    Status setLock(std::uint64_t offset, std::uint64_t length, int type)
+    {
+        struct flock range = {};
+        range.l_type = static_cast<short>(type);
+        range.l_whence = SEEK_SET;
+        range.l_start = static_cast<off_t>(offset);
+        range.l_len = static_cast<off_t>(length);
+        const auto place = static_cast<std::int64_t>(offset);
+        while (::fcntl(m_descriptor, F_OFD_SETLK, &range) != 0) {
+            if (errno == EAGAIN || errno == EACCES)
+                return Error{ErrorKind::Locked, m_path, "held by another session", place};
+            if (errno != EINTR)
+                return systemError(errno, m_path, "lock", place);
+        }
+        return {};
+    }
+
+    int m_descriptor;
+    std::string m_path;
+    bool m_readOnly;
+    bool m_unsynced = false;
+    Network m_network = Network::NotAsked;
+};
+
+char lower(char c)
+{
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+bool sameButForCase(std::string_view a, std::string_view b)
+{
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [](char x, char y) { return lower(x) == lower(y); });
+}
+
+void syncFolderOf(const std::string &path)
+{
+    std::string folder = std::filesystem::path(path).parent_path().string();
+    if (folder.empty())
+        folder = ".";
+    const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (descriptor < 0)
+        return;
+    ::fsync(descriptor); // not every file system can; the rename itself has happened
+    ::close(descriptor);
+}
+
+class PosixFileSystem final : public FileSystem
+{
+public:
+    Result<std::unique_ptr<File>> open(const std::string &path, OpenMode mode) override
+    {
+        int flags = O_CLOEXEC | O_NONBLOCK; // a pipe in the place of a file must not stop us
+        if (mode == OpenMode::ReadOnly)
+            flags |= O_RDONLY;
+        else
+            flags |= mode == OpenMode::CreateNew ? O_RDWR | O_CREAT | O_EXCL : O_RDWR;
+        int descriptor = ::open(path.c_str(), flags, 0666);
+        while (descriptor < 0 && errno == EINTR)
+            descriptor = ::open(path.c_str(), flags, 0666);
+        if (descriptor >= 0)
+            return std::unique_ptr<File>(
+                std::make_unique<PosixFile>(descriptor, path, mode == OpenMode::ReadOnly));
+        Error error = systemError(errno, path, "open");
+        if (mode == OpenMode::ReadOnly && error.kind == ErrorKind::ReadOnly)
+            error.kind = ErrorKind::Io; // not even reading is allowed
+        return error;
+    }
+
+    Result<std::string> findIgnoringCase(const std::string &path) override
+    {
+        std::error_code failed;
+        if (std::filesystem::exists(path, failed))
+            return path;
+        const std::filesystem::path wanted(path);
+        const std::string name = wanted.filename().string();
+        const std::filesystem::path folder =
+            wanted.has_parent_path() ? wanted.parent_path() : std::filesystem::path(".");
+        std::filesystem::directory_iterator entry(folder, failed);
+        const std::filesystem::directory_iterator end;
+        while (!failed && entry != end) {
+            const std::filesystem::path found = entry->path().filename();
+            if (sameButForCase(found.string(), name))
+                return wanted.has_parent_path() ? (wanted.parent_path() / found).string()
+                                                : found.string();
+            entry.increment(failed);
+        }
+        return Error{ErrorKind::NotFound, path, "no such file"};
+    }
+
+    Status rename(const std::string &from, const std::string &to) override
+    {
+        if (::rename(from.c_str(), to.c_str()) != 0)
+            return systemError(errno, from, "rename");
+        syncFolderOf(to);
+        return {};
+    }
+
+    Status remove(const std::string &path) override
+    {
+        if (::unlink(path.c_str()) != 0)
+            return systemError(errno, path, "remove");
+        return {};
+    }
+};
+
+} // namespace
+
+FileSystem &systemFiles()
+{
+    static PosixFileSystem files;
+    return files;
+}
+
+} // namespace norvane::engine

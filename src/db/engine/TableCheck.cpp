@@ -1,0 +1,190 @@
+#include "db/engine/TableCheck.h"
+
+#include "db/engine/FieldForms.h"
+#include "db/engine/LockPlaces.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+
+namespace norvane::engine
+{
+
+namespace
+{
+
+using Findings = std::vector<std::string>;
+
+constexpr std::size_t kMostFindings = 1000; // a wrecked file need not fill the memory
+
+void add(Findings &findings, std::string text)
+{
+    if (findings.size() < kMostFindings)
+        findings.push_back(std::move(text));
+}
+
+std::string told(const Error &error)
+{
+    std::string text = error.file + ": " + error.detail;
+    if (error.place >= 0)
+        text += " (at " + std::to_string(error.place) + ")";
+    return text;
+}
+
+void checkHeader(TableFiles &files, Findings &findings)
+{
+    std::array<Byte, 8> bytes;
+    const Result<std::size_t> got = files.table().file().read(0, bytes);
+    const Result<std::uint64_t> size = files.table().file().size();
+    if (!got.ok() || !size.ok()) {
+        add(findings, told(got.ok() ? size.error() : got.error()));
+        return;
+    }
+    const std::uint64_t claimed = getLe32(&bytes[4]);
+    const std::uint64_t end = files.header().length + claimed * files.layout().recordLength;
+    if (end > *size)
+        add(findings, "the header counts " + std::to_string(claimed) +
+                          " rows, the file has room for " + std::to_string(files.count()));
+    else if (*size > end + 1)
+        add(findings, std::to_string(*size - end) + " bytes lie behind the last row");
+    const bool date =
+        bytes[1] < 100 && bytes[2] >= 1 && bytes[2] <= 12 && bytes[3] >= 1 && bytes[3] <= 31;
+    if (!date)
+        add(findings, "the header's date of change is no date");
+}
+
+// Block number of a memo field, 0 for none. REQUIRES: a sound field.
+std::uint32_t blockOf(const FieldDef &field, ByteView row)
+{
+    const ByteView bytes = row.subspan(field.offset, field.length);
+    if (field.length == 4)
+        return getLe32(bytes.data());
+    const std::string_view text = trimmed(asText(bytes));
+    std::uint32_t block = 0;
+    std::from_chars(text.data(), text.data() + text.size(), block);
+    return block;
+}
+
+struct MemoUse {
+    MemoFile::Extent extent;
+    std::string owner;
+};
+
+void checkMemoPointer(MemoFile &memo, const FieldDef &field, ByteView row, const std::string &where,
+                      std::vector<MemoUse> &uses, Findings &findings)
+{
+    const std::uint32_t block = blockOf(field, row);
+    if (block == 0)
+        return;
+    const Result<MemoFile::Extent> extent = memo.extentOf(block);
+    if (extent.ok())
+        uses.push_back({*extent, where});
+    else
+        add(findings, where + ": " + extent.error().detail);
+}
+
+void checkRow(TableFiles &files, std::uint32_t record, ByteView row, std::vector<MemoUse> &uses,
+              Findings &findings)
+{
+    const std::string number = "row " + std::to_string(record);
+    if (row[0] != kLiveRow && row[0] != kDeletedRow)
+        add(findings, number + ": neither live nor deleted");
+    for (const FieldDef &field : files.layout().fields) {
+        const std::string problem = fieldProblem(field, row);
+        if (!problem.empty())
+            add(findings, number + ", " + field.name + ": " + problem);
+        else if (field.type == 'M')
+            checkMemoPointer(*files.memo(), field, row, number + ", " + field.name, uses, findings);
+    }
+}
+
+void checkSharedBlocks(std::vector<MemoUse> &uses, Findings &findings)
+{
+    std::sort(uses.begin(), uses.end(),
+              [](const MemoUse &a, const MemoUse &b) { return a.extent.first < b.extent.first; });
+    for (std::size_t i = 1; i < uses.size(); ++i) {
+        if (uses[i].extent.first < uses[i - 1].extent.end)
+            add(findings, uses[i - 1].owner + " and " + uses[i].owner + " share memo blocks");
+    }
+}
+
+void checkRows(TableFiles &files, Findings &findings)
+{
+    std::vector<MemoUse> uses;
+    const RowSource rows = files.allRows();
+    std::uint32_t record = 0;
+    ByteView row;
+    Result<bool> more = rows.next(record, row);
+    while (more.ok() && *more) {
+        checkRow(files, record, row, uses, findings);
+        more = rows.next(record, row);
+    }
+    if (!more.ok())
+        add(findings, told(more.error()));
+    checkSharedBlocks(uses, findings);
+    if (!files.memo())
+        return;
+    const Result<std::string> header = files.memo()->headerProblem();
+    if (!header.ok())
+        add(findings, told(header.error()));
+    else if (!header->empty())
+        add(findings, files.memo()->path() + ": " + *header);
+}
+
+void checkTags(TableFiles &files, Findings &findings)
+{
+    if (!files.index()) {
+        if (files.header().hasIndex())
+            add(findings, "the index is missing");
+        return;
+    }
+    const Result<Findings> found = checkIndex(*files.index(), files.allRows());
+    if (!found.ok()) {
+        add(findings, told(found.error()));
+        return;
+    }
+    for (const std::string &finding : *found)
+        add(findings, finding);
+}
+
+void checkLocked(TableFiles &files, Findings &findings)
+{
+    if (Status status = files.refreshCount(); !status.ok()) {
+        add(findings, told(status.error()));
+        return;
+    }
+    checkHeader(files, findings);
+    checkRows(files, findings);
+    checkTags(files, findings);
+}
+
+} // namespace
+
+std::vector<std::string> checkTable(TableFiles &files, const LockPatience &patience)
+{
+    Findings findings;
+    if (Status status = files.writeOut(); !status.ok())
+        return {told(status.error())};
+    const bool needsLock = !files.exclusive() && !files.readOnly();
+    if (needsLock) {
+        const Status locked = waitForLock(patience, LockPace::Brief, [&files] {
+            return files.table().tryLock(kLockByte, LockMode::Exclusive);
+        });
+        if (!locked.ok())
+            return {told(locked.error())};
+    }
+    {
+        TableFiles::IndexLock lock;
+        const Status locked =
+            files.index() ? lock.take(files, LockMode::Shared, patience) : Status();
+        if (locked.ok())
+            checkLocked(files, findings);
+        else
+            add(findings, told(locked.error()));
+    }
+    if (needsLock)
+        (void)files.table().unlock(kLockByte, LockMode::Exclusive);
+    return findings;
+}
+
+} // namespace norvane::engine

@@ -1,0 +1,366 @@
+#include "db/engine/TableFiles.h"
+
+#include "db/engine/LockPlaces.h"
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+
+namespace norvane::engine
+{
+
+namespace
+{
+
+// Uncommitted index changes an exclusive session may collect; bounds memory and what a
+// crash in a bulk load leaves without keys.
+constexpr int kMostWaiting = 20000;
+
+Result<std::unique_ptr<File>> openAny(FileSystem &files, const std::string &path, bool readOnly)
+{
+    Result<std::unique_ptr<File>> file =
+        files.open(path, readOnly ? OpenMode::ReadOnly : OpenMode::ReadWrite);
+    if (file.ok())
+        return file;
+    if (file.error().kind == ErrorKind::ReadOnly && !readOnly)
+        return files.open(path, OpenMode::ReadOnly);
+    if (file.error().kind != ErrorKind::NotFound)
+        return file;
+    const Result<std::string> found = files.findIgnoringCase(path);
+    if (!found.ok() || *found == path)
+        return file;
+    return openAny(files, *found, readOnly);
+}
+
+// nvncust.dbf goes with nvncust.cdx and nvncust.fpt, a template nvncust.db_ with nvncust.cd_.
+std::string besidePath(const std::string &path, std::string_view extension)
+{
+    const std::size_t dot = path.find_last_of("./\\");
+    const bool hasDot = dot != std::string::npos && path[dot] == '.';
+    std::string name = hasDot ? path.substr(0, dot + 1) : path + '.';
+    name.append(extension);
+    if (hasDot && path.ends_with('_'))
+        name.back() = '_';
+    return name;
+}
+
+} // namespace
+
+TableFiles::~TableFiles()
+{
+    (void)writeOut();
+}
+
+Result<std::shared_ptr<TableFiles>> TableFiles::open(FileSystem &files, const std::string &path,
+                                                     bool readOnly)
+{
+    Result<std::unique_ptr<File>> table = openAny(files, path, readOnly);
+    if (!table.ok())
+        return table.error();
+    std::shared_ptr<TableFiles> opened(new TableFiles(files, std::move(*table)));
+    // Held as long as this object lives, so that nobody alone in the table changes it meanwhile.
+    if (Status status = opened->m_table.tryLock(kOpenByte, LockMode::Shared); !status.ok())
+        return status.error();
+    Result<TableHeader> header = readTableHeader(opened->m_table.file());
+    if (!header.ok())
+        return header.error();
+    opened->m_header = std::move(*header);
+    const Result<std::uint64_t> size = opened->m_table.file().size();
+    if (!size.ok())
+        return size.error();
+    opened->m_size = *size;
+    opened->m_count = opened->m_header.possibleCount(opened->m_header.count, *size);
+    if (Status status = opened->openBeside(); !status.ok())
+        return status.error();
+    return opened;
+}
+
+Status TableFiles::openBeside()
+{
+    const bool onlyRead = readOnly();
+    if (m_header.hasMemo()) {
+        Result<std::unique_ptr<File>> memo = openAny(m_system, besidePath(path(), "fpt"), onlyRead);
+        if (!memo.ok())
+            return memo.error();
+        m_memo = std::make_unique<MemoFile>(std::shared_ptr<File>(std::move(*memo)));
+    }
+    if (!m_header.hasIndex())
+        return {};
+    Result<std::unique_ptr<File>> file = openAny(m_system, besidePath(path(), "cdx"), onlyRead);
+    if (!file.ok())
+        return file.error();
+    m_indexFile.emplace(std::shared_ptr<File>(std::move(*file)));
+    Result<std::unique_ptr<IndexFile>> index = IndexFile::open(m_indexFile->shared(), layout());
+    if (!index.ok())
+        return index.error();
+    m_index = std::move(*index);
+    return {};
+}
+
+Status TableFiles::enterExclusive()
+{
+    if (Status status = m_table.tryLock(kOpenByte, LockMode::Exclusive); !status.ok())
+        return status;
+    if (++m_exclusive > 1)
+        return {};
+    // From here on nothing changes behind this session's back; before it may have.
+    Status status = refreshCount();
+    if (status.ok() && m_index)
+        status = m_index->refresh();
+    if (!status.ok())
+        (void)leaveExclusive();
+    return status;
+}
+
+Status TableFiles::leaveExclusive()
+{
+    Status written;
+    if (m_exclusive == 1)
+        written = writeOut();
+    --m_exclusive;
+    Status unlocked = m_table.unlock(kOpenByte, LockMode::Exclusive);
+    return written.ok() ? unlocked : written;
+}
+
+Status TableFiles::refreshCount()
+{
+    if (m_countWaits)
+        return {}; // nobody else can have changed it
+    std::array<Byte, 4> bytes;
+    const Result<std::size_t> got = m_table.file().read(4, bytes);
+    if (!got.ok())
+        return got.error();
+    const Result<std::uint64_t> size = m_table.file().size();
+    if (!size.ok())
+        return size.error();
+    m_size = *size;
+    m_count = *got < bytes.size() ? 0 : m_header.possibleCount(getLe32(bytes.data()), *size);
+    return {};
+}
+
+Status TableFiles::readRows(std::uint32_t first, ByteSpan into)
+{
+    const std::uint64_t place = m_header.rowPlace(first);
+    const Result<std::size_t> got = m_table.file().read(place, into);
+    if (!got.ok())
+        return got.error();
+    if (*got < into.size())
+        return Error{ErrorKind::Damaged, path(), "the file ends inside a record",
+                     static_cast<std::int64_t>(place)};
+    return {};
+}
+
+Status TableFiles::writeRow(std::uint32_t record, ByteView row)
+{
+    ++m_stamp;
+    return m_table.file().write(m_header.rowPlace(record), row);
+}
+
+Status TableFiles::checkRoom()
+{
+    if (m_count < maxRecords(m_header.length, layout().recordLength))
+        return {};
+    return Error{ErrorKind::TooLarge, path(), "the table is full"};
+}
+
+Status TableFiles::appendRow(ByteView row)
+{
+    std::vector<Byte> bytes(row.begin(), row.end());
+    bytes.push_back(kEndOfFile);
+    const std::uint64_t place = m_header.rowPlace(m_count + 1);
+    const std::uint64_t end = place + bytes.size();
+    ++m_stamp;
+    Status status = m_table.file().write(place, bytes);
+    // Rows behind the count were never acknowledged; what is left of them goes.
+    if (status.ok() && m_size > end)
+        status = m_table.file().resize(end);
+    if (status.ok())
+        status = writeCount(m_count + 1);
+    m_size = end;
+    ++m_count;
+    if (!status.ok())
+        undoAppend();
+    return status;
+}
+
+void TableFiles::undoAppend()
+{
+    --m_count;
+    ++m_stamp;
+    const std::uint64_t end = m_header.rowPlace(m_count + 1);
+    (void)writeCount(m_count);
+    const Byte mark = kEndOfFile;
+    (void)m_table.file().write(end, ByteView(&mark, 1));
+    (void)m_table.file().resize(end + 1);
+    m_size = end + 1;
+}
+
+Status TableFiles::writeCount(std::uint32_t count)
+{
+    if (exclusive()) {
+        m_countWaits = true;
+        return {};
+    }
+    m_header.changed = today();
+    return m_table.file().write(kCountPlace, makeDateAndCount(m_header.changed, count));
+}
+
+bool TableFiles::dateIsOld() const
+{
+    Date date = today();
+    date.year %= 100;
+    Date stored = m_header.changed;
+    stored.year %= 100;
+    return !(date == stored);
+}
+
+Status TableFiles::writeDate()
+{
+    m_header.changed = today();
+    const std::vector<Byte> bytes = makeDateAndCount(m_header.changed, 0);
+    return m_table.file().write(kCountPlace, ByteView(bytes).first(3));
+}
+
+Status TableFiles::commitIndex()
+{
+    ++m_stamp;
+    if (!exclusive())
+        return m_index->commit();
+    return ++m_indexWaits < kMostWaiting ? Status() : writeOut();
+}
+
+Status TableFiles::dropIndexChanges()
+{
+    m_index->discard();
+    return m_indexWaits > 0 ? rebuildIndex() : Status();
+}
+
+Status TableFiles::writeOutCount()
+{
+    if (!m_countWaits)
+        return {};
+    m_header.changed = today();
+    Status status = m_table.file().write(kCountPlace, makeDateAndCount(m_header.changed, m_count));
+    m_countWaits = !status.ok();
+    return status;
+}
+
+Status TableFiles::writeOut()
+{
+    Status status = writeOutCount();
+    if (m_indexWaits > 0) {
+        Status committed = m_index->commit();
+        if (committed.ok())
+            m_indexWaits = 0;
+        else if (status.ok())
+            status = committed;
+    }
+    return status;
+}
+
+RowSource TableFiles::allRows()
+{
+    struct Pass {
+        std::vector<Byte> block;
+        std::uint32_t first = 1; // record at the front of the block
+        std::uint32_t held = 0;
+        std::uint32_t at = 0;
+    };
+    auto pass = std::make_shared<Pass>();
+    const std::uint32_t rows = std::max(1U, (1U << 18) / layout().recordLength);
+    pass->block.resize(std::size_t{rows} * layout().recordLength);
+    return {[this, pass, rows](std::uint32_t &record, ByteView &row) -> Result<bool> {
+        const std::size_t length = layout().recordLength;
+        if (pass->at == pass->held) {
+            pass->first += pass->held;
+            pass->at = 0;
+            pass->held = 0;
+            if (pass->first > m_count)
+                return false;
+            const std::uint32_t now = std::min(rows, m_count - pass->first + 1);
+            Status status = readRows(pass->first, ByteSpan(pass->block).first(now * length));
+            if (!status.ok())
+                return status.error();
+            pass->held = now;
+        }
+        record = pass->first + pass->at;
+        row = ByteView(pass->block).subspan(pass->at * length, length);
+        ++pass->at;
+        return true;
+    }};
+}
+
+Status TableFiles::rebuildIndex()
+{
+    if (!m_index)
+        return {};
+    if (Status status = writeOutCount(); !status.ok())
+        return status;
+    m_index->discard();
+    m_indexWaits = 0;
+    std::vector<TagDef> tags;
+    for (const TagInfo &tag : m_index->tags())
+        tags.push_back({tag.name, tag.expression, tag.filter});
+
+    // Never an empty or half index under the live name: built beside, then put in its place.
+    const std::string live = m_indexFile->file().path();
+    const std::string beside = live + ".new";
+    (void)m_system.remove(beside);
+    Result<std::unique_ptr<File>> target = m_system.open(beside, OpenMode::CreateNew);
+    if (!target.ok())
+        return target.error();
+    Status status = buildIndex(**target, layout(), tags, allRows());
+    if (status.ok())
+        status = (*target)->sync();
+    target->reset();
+    if (!status.ok()) {
+        (void)m_system.remove(beside);
+        return status;
+    }
+    m_index.reset(); // an open file cannot be replaced everywhere
+    m_indexFile.reset();
+    const Status renamed = m_system.rename(beside, live);
+    if (!renamed.ok())
+        (void)m_system.remove(beside);
+    ++m_stamp;
+    Result<std::unique_ptr<File>> file = openAny(m_system, live, false);
+    if (!file.ok())
+        return file.error();
+    m_indexFile.emplace(std::shared_ptr<File>(std::move(*file)));
+    Result<std::unique_ptr<IndexFile>> index = IndexFile::open(m_indexFile->shared(), layout());
+    if (!index.ok())
+        return index.error();
+    m_index = std::move(*index);
+    const Status read = m_index->refresh();
+    return renamed.ok() ? read : renamed;
+}
+
+TableFiles::IndexLock::~IndexLock()
+{
+    (void)release();
+}
+
+Status TableFiles::IndexLock::take(TableFiles &files, LockMode mode, const LockPatience &patience)
+{
+    if (files.exclusive())
+        return {};
+    Status status = waitForLock(patience, LockPace::Brief, [&files, mode] {
+        return files.m_indexFile->tryLock(kLockByte, mode);
+    });
+    if (!status.ok())
+        return status;
+    m_files = &files;
+    m_mode = mode;
+    return files.m_index->refresh();
+}
+
+Status TableFiles::IndexLock::release()
+{
+    if (!m_files)
+        return {};
+    TableFiles *files = m_files;
+    m_files = nullptr;
+    return files->m_indexFile->unlock(kLockByte, m_mode);
+}
+
+} // namespace norvane::engine

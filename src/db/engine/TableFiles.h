@@ -1,0 +1,114 @@
+// The three files of an open table as one session has them: shared by all table handles of the
+// session on the same path, so that locks, cached pages and counts agree.
+#pragma once
+
+#include "db/engine/IndexFile.h"
+#include "db/engine/LockedFile.h"
+#include "db/engine/LockWait.h"
+#include "db/engine/MemoFile.h"
+#include "db/engine/TableFormat.h"
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace norvane::engine
+{
+
+class TableFiles
+{
+public:
+    // Opens table, production index and memo file; a file that refuses writing is opened for
+    // reading. Locked when another session holds the table exclusively.
+    static Result<std::shared_ptr<TableFiles>> open(FileSystem &files, const std::string &path,
+                                                    bool readOnly);
+    ~TableFiles();
+    TableFiles(const TableFiles &) = delete;
+    TableFiles &operator=(const TableFiles &) = delete;
+
+    const std::string &path() { return m_table.file().path(); }
+    const RowLayout &layout() const { return m_header.layout; }
+    const TableHeader &header() const { return m_header; }
+    bool readOnly() { return m_table.file().readOnly(); }
+    LockedFile &table() { return m_table; }
+    IndexFile *index() { return m_index.get(); } // null when the table has none
+    MemoFile *memo() { return m_memo.get(); }    // null when the table has none
+
+    // Sole use, counted per handle. Locked when another session has the table open.
+    Status enterExclusive();
+    Status leaveExclusive();
+    bool exclusive() const { return m_exclusive > 0; }
+
+    // Rows by the header as last read, never more than the file holds.
+    std::uint32_t count() const { return m_count; }
+    Status refreshCount();
+    // Reads rows into `into`; fewer bytes than asked for are Damaged.
+    Status readRows(std::uint32_t first, ByteSpan into);
+    Status writeRow(std::uint32_t record, ByteView row);
+    // Puts one row behind the last: row, end mark, then date and count. REQUIRES: append lock.
+    Status appendRow(ByteView row);
+    // Takes the row just appended away again.
+    void undoAppend();
+    // Refuses a table that is full. REQUIRES: a fresh count.
+    Status checkRoom();
+    // Brings the header's date of change to this day. REQUIRES: append lock.
+    Status writeDate();
+    bool dateIsOld() const;
+
+    // Index changes collect in memory while the table is held exclusively; else at once.
+    Status commitIndex();
+    // Forgets key changes after one of them failed. Those of rows stored before that only waited
+    // in memory come back by building the index anew.
+    Status dropIndexChanges();
+    // Everything that was collected goes to the files.
+    Status writeOut();
+    // Moved by each change of this session: what was read before it may be old.
+    std::uint32_t stamp() const { return m_stamp; }
+
+    // A new index from the rows, put in the place of the old one. REQUIRES: exclusive().
+    Status rebuildIndex();
+    RowSource allRows();
+
+    // The index lock for one operation; nothing when the table is held exclusively.
+    class IndexLock
+    {
+    public:
+        IndexLock() = default;
+        ~IndexLock();
+        IndexLock(const IndexLock &) = delete;
+        IndexLock &operator=(const IndexLock &) = delete;
+        // Takes the lock and drops pages that another session has changed.
+        Status take(TableFiles &files, LockMode mode, const LockPatience &patience);
+        Status release();
+
+    private:
+        TableFiles *m_files = nullptr;
+        LockMode m_mode = LockMode::Shared;
+    };
+
+private:
+    explicit TableFiles(FileSystem &files, std::shared_ptr<File> table)
+        : m_system(files), m_table(std::move(table))
+    {
+    }
+
+    Status openBeside();
+    Status writeCount(std::uint32_t count);
+    Status writeOutCount();
+
+    FileSystem &m_system;
+    LockedFile m_table;
+    TableHeader m_header;
+    std::uint32_t m_count = 0;
+    std::uint64_t m_size = 0; // bytes, as of the last look
+    std::optional<LockedFile> m_indexFile;
+    std::unique_ptr<IndexFile> m_index;
+    std::unique_ptr<MemoFile> m_memo;
+    int m_exclusive = 0;
+    bool m_countWaits = false; // exclusive: the header's count is behind
+    int m_indexWaits = 0;      // exclusive: index changes not yet committed
+    std::uint32_t m_stamp = 0;
+};
+
+} // namespace norvane::engine

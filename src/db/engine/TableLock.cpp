@@ -1,0 +1,67 @@
+// Locks of a handle: rows and the append lock, held until unlocked or closed.
+#include "db/engine/LockPlaces.h"
+#include "db/engine/Table.h"
+
+#include <algorithm>
+
+namespace norvane::engine
+{
+
+Status Table::lock(std::uint32_t record)
+{
+    if (m_files->readOnly())
+        return Error{ErrorKind::ReadOnly, m_files->path(), "the table is open for reading only"};
+    if (record > maxRecords(m_files->header().length, layout().recordLength))
+        return Error{ErrorKind::Misuse, m_files->path(), "no such row to lock", record};
+    const bool held = std::find(m_locks.begin(), m_locks.end(), record) != m_locks.end();
+    if (held || m_files->exclusive())
+        return {};
+
+    const std::uint64_t place = recordLockByte(record); // that of record 0 is the append lock
+    Status status =
+        waitForLock(m_settings.patience, record == 0 ? LockPace::Brief : LockPace::Record,
+                    [&] { return m_files->table().tryLock(place, LockMode::Exclusive); });
+    if (!status.ok())
+        return status;
+    m_locks.push_back(record);
+    // What was read before the lock may have changed until it came.
+    if (record == 0)
+        status = m_files->refreshCount();
+    else if (record == m_recNo && !m_changed)
+        status = reloadRow();
+    if (!status.ok())
+        (void)unlockOne(record);
+    return status;
+}
+
+Status Table::unlockOne(std::uint32_t record)
+{
+    const auto held = std::find(m_locks.begin(), m_locks.end(), record);
+    if (held == m_locks.end())
+        return {};
+    m_locks.erase(held);
+    return m_files->table().unlock(recordLockByte(record), LockMode::Exclusive);
+}
+
+Status Table::unlockAll()
+{
+    Status status;
+    while (!m_locks.empty()) {
+        const Status one = unlockOne(m_locks.back());
+        if (status.ok())
+            status = one;
+    }
+    m_loadedLocked = false;
+    return status;
+}
+
+Status Table::unlock()
+{
+    const Status stored = store();
+    if (!stored.ok())
+        discard();
+    Status unlocked = unlockAll();
+    return stored.ok() ? unlocked : stored;
+}
+
+} // namespace norvane::engine

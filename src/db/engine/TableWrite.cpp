@@ -1,0 +1,365 @@
+// Storing rows. Order: memo texts, then under the index lock keys in memory, the row, the keys in
+// the file; so whatever can fail without harm fails before the row is touched.
+#include "db/engine/LockPlaces.h"
+#include "db/engine/Table.h"
+
+#include <algorithm>
+
+namespace norvane::engine
+{
+
+Status Table::beginChange()
+{
+    if (m_files->readOnly())
+        return Error{ErrorKind::ReadOnly, m_files->path(), "the table is open for reading only"};
+    if (m_appending || m_changed)
+        return {};
+    if (m_recNo == 0)
+        return Error{ErrorKind::Misuse, m_files->path(), "there is no current row to change"};
+    if (!holdsLock(m_recNo)) {
+        if (m_settings.lockEnforce)
+            return Error{ErrorKind::Misuse, m_files->path(), "the row is not locked", m_recNo};
+        if (Status status = lock(m_recNo); !status.ok())
+            return status;
+    }
+    // The row as it is in the file tells which keys have to go.
+    if (!m_loadedLocked || m_rowStamp != m_files->stamp()) {
+        if (Status status = reloadRow(); !status.ok())
+            return status;
+    }
+    m_changed = true;
+    return {};
+}
+
+void Table::discard()
+{
+    if (m_appending) {
+        leaveRow();
+    } else if (m_changed) {
+        m_row = m_stored;
+        m_changed = false;
+        forgetMemos();
+    }
+}
+
+Status Table::flush()
+{
+    if (Status status = store(); !status.ok())
+        return status;
+    return m_files->writeOut();
+}
+
+Status Table::deleteRow()
+{
+    if (m_appending)
+        return Error{ErrorKind::Misuse, m_files->path(), "a row not yet appended is not deleted"};
+    if (Status status = beginChange(); !status.ok())
+        return status;
+    m_row[0] = kDeletedRow;
+    return {};
+}
+
+Status Table::reindex()
+{
+    if (!m_files->exclusive())
+        return Error{ErrorKind::Misuse, m_files->path(), "the table is not open exclusively"};
+    if (Status status = store(); !status.ok())
+        return status;
+    m_batchTag = -1;
+    return m_files->rebuildIndex();
+}
+
+// ---- the current row
+
+Status Table::store()
+{
+    if (!m_changed || m_appending)
+        return {};
+    if (!holdsLock(m_recNo))
+        return Error{ErrorKind::Misuse, m_files->path(), "the row is not locked", m_recNo};
+    if (Status status = storeMemos(); !status.ok())
+        return status;
+    if (m_row == m_stored) {
+        m_changed = false;
+        return {};
+    }
+    const Result<std::vector<KeyChange>> changes = keyChanges(false);
+    if (!changes.ok())
+        return changes.error();
+    if (Status status = storeDate(); !status.ok())
+        return status;
+    const int placeTag = m_placeTag >= 0 ? m_placeTag : orderTag();
+    if (placeTag >= 0)
+        (void)placeInTag(placeTag); // a deleted row keeps its place for the next move
+
+    const Status status =
+        changes->empty() ? m_files->writeRow(m_recNo, m_row) : storeIndexed(*changes);
+    if (!status.ok())
+        return status;
+    for (const KeyChange &change : *changes) {
+        if (change.tag == m_placeTag && !change.after.empty())
+            m_placeKey = change.after;
+    }
+    rowStored(m_recNo);
+    return {};
+}
+
+Status Table::storeIndexed(const std::vector<KeyChange> &changes)
+{
+    TableFiles::IndexLock lock;
+    if (Status status = lock.take(*m_files, LockMode::Exclusive, m_settings.patience); !status.ok())
+        return status;
+    if (Status status = changeKeys(changes, m_recNo); !status.ok())
+        return status;
+    Status status = m_files->writeRow(m_recNo, m_row);
+    if (!status.ok())
+        takeBackKeys(changes, m_recNo);
+    else
+        status = m_files->commitIndex();
+    if (!status.ok()) {
+        if (!m_files->exclusive())
+            m_files->index()->discard();
+        (void)m_files->writeRow(m_recNo, m_stored);
+        return status;
+    }
+    return lock.release();
+}
+
+void Table::rowStored(std::uint32_t record)
+{
+    m_stored = m_row;
+    m_recNo = record;
+    m_appending = false;
+    m_changed = false;
+    m_behindLast = false;
+    m_loadedLocked = true;
+    m_rowStamp = m_files->stamp();
+    for (Memo &memo : m_memos)
+        memo.changed = false;
+}
+
+Status Table::storeMemos()
+{
+    std::vector<std::string_view> texts;
+    std::vector<int> fields;
+    for (std::size_t i = 0; i < m_memos.size(); ++i) {
+        if (!m_memos[i].changed)
+            continue;
+        if (m_memos[i].text.empty()) {
+            putMemoBlock(static_cast<int>(i), 0);
+            m_memos[i].changed = false;
+            continue;
+        }
+        texts.emplace_back(m_memos[i].text);
+        fields.push_back(static_cast<int>(i));
+    }
+    if (texts.empty())
+        return {};
+    const Result<std::vector<std::uint32_t>> blocks =
+        m_files->memo()->append(texts, m_settings.patience, m_files->exclusive());
+    if (!blocks.ok())
+        return blocks.error();
+    for (std::size_t i = 0; i < fields.size(); ++i) {
+        putMemoBlock(fields[i], (*blocks)[i]);
+        m_memos[static_cast<std::size_t>(fields[i])].changed = false;
+    }
+    return {};
+}
+
+// The header's date of change is this day's after any write; appends write it with the count.
+Status Table::storeDate()
+{
+    if (!m_files->dateIsOld())
+        return {};
+    if (m_files->exclusive())
+        return m_files->writeDate();
+    LockedFile &table = m_files->table();
+    const Status locked = waitForLock(m_settings.patience, LockPace::Brief, [&table] {
+        return table.tryLock(kLockByte, LockMode::Exclusive);
+    });
+    if (!locked.ok())
+        return locked;
+    const Status written = m_files->writeDate();
+    Status unlocked = table.unlock(kLockByte, LockMode::Exclusive);
+    return written.ok() ? unlocked : written;
+}
+
+// ---- keys
+
+Result<std::vector<Table::KeyChange>> Table::keyChanges(bool newRow) const
+{
+    std::vector<KeyChange> changes;
+    const IndexFile *index = m_files->index();
+    const int tags = index ? static_cast<int>(index->tags().size()) : 0;
+    for (int tag = 0; tag < tags; ++tag) {
+        KeyChange change{tag, {}, {}};
+        if (!newRow) {
+            Result<std::optional<std::string>> before = index->keyOf(tag, m_stored);
+            if (!before.ok())
+                return before.error();
+            change.before = std::move(before.value()).value_or(std::string());
+        }
+        Result<std::optional<std::string>> after = index->keyOf(tag, m_row);
+        if (!after.ok())
+            return after.error();
+        change.after = std::move(after.value()).value_or(std::string());
+        if (change.before != change.after)
+            changes.push_back(std::move(change));
+    }
+    return changes;
+}
+
+Status Table::changeKey(int tag, const std::string &from, const std::string &to,
+                        std::uint32_t record)
+{
+    IndexFile &index = *m_files->index();
+    Status status;
+    if (!from.empty())
+        status = index.remove(tag, from, record);
+    if (status.ok() && !to.empty())
+        status = index.insert(tag, to, record);
+    return status;
+}
+
+// All keys of a row change in memory or none does.
+Status Table::changeKeys(const std::vector<KeyChange> &changes, std::uint32_t record)
+{
+    for (const KeyChange &change : changes) {
+        Status status = changeKey(change.tag, change.before, change.after, record);
+        if (!status.ok()) {
+            (void)m_files->dropIndexChanges();
+            return status;
+        }
+    }
+    return {};
+}
+
+void Table::takeBackKeys(const std::vector<KeyChange> &changes, std::uint32_t record)
+{
+    if (!m_files->exclusive()) {
+        m_files->index()->discard();
+        return;
+    }
+    // The keys of rows stored before wait in memory too and must stay.
+    for (auto it = changes.rbegin(); it != changes.rend(); ++it)
+        (void)changeKey(it->tag, it->after, it->before, record);
+}
+
+// ---- new rows
+
+void Table::blankRow()
+{
+    m_row.assign(layout().recordLength, kLiveRow);
+    for (const FieldDef &field : layout().fields)
+        blankField(field);
+    forgetMemos();
+}
+
+Status Table::blank()
+{
+    if (Status status = beginChange(); !status.ok())
+        return status;
+    const Byte flag = m_row[0];
+    blankRow();
+    m_row[0] = flag;
+    return {};
+}
+
+Status Table::startAppend()
+{
+    if (m_files->readOnly())
+        return Error{ErrorKind::ReadOnly, m_files->path(), "the table is open for reading only"};
+    if (Status status = settleBeforeMove(); !status.ok())
+        return status;
+    m_recNo = 0;
+    m_placeTag = -1;
+    m_appending = true;
+    m_row[0] = kLiveRow;
+    for (const FieldDef &field : layout().fields) {
+        if (field.type == 'M')
+            blankField(field); // two rows never share a text
+    }
+    forgetMemos();
+    return {};
+}
+
+Status Table::append()
+{
+    if (!m_appending)
+        return Error{ErrorKind::Misuse, m_files->path(), "no row has been begun"};
+    std::uint32_t record = 0;
+    if (Status status = lockForAppend(record); !status.ok())
+        return status;
+    Status status = appendLocked(record);
+    if (!m_files->exclusive()) {
+        const Status unlocked = m_files->table().unlock(kLockByte, LockMode::Exclusive);
+        if (status.ok())
+            status = unlocked;
+    }
+    if (!status.ok()) {
+        (void)unlockOne(record);
+        return status;
+    }
+    m_placeTag = -1;
+    rowStored(record);
+    return {};
+}
+
+// The append lock and that of the row to come; never waits for the second holding the first.
+Status Table::lockForAppend(std::uint32_t &record)
+{
+    const auto measure = [this, &record]() -> Status {
+        if (Status status = m_files->refreshCount(); !status.ok())
+            return status;
+        record = m_files->count() + 1;
+        return m_files->checkRoom();
+    };
+    if (m_files->exclusive())
+        return measure();
+    LockedFile &table = m_files->table();
+    return waitForLock(m_settings.patience, LockPace::Brief, [&]() -> Status {
+        if (Status status = table.tryLock(kLockByte, LockMode::Exclusive); !status.ok())
+            return status;
+        Status status = measure();
+        if (status.ok())
+            status = table.tryLock(recordLockByte(record), LockMode::Exclusive);
+        if (status.ok())
+            m_locks.push_back(record);
+        else
+            (void)table.unlock(kLockByte, LockMode::Exclusive);
+        return status;
+    });
+}
+
+Status Table::appendLocked(std::uint32_t record)
+{
+    const Result<std::vector<KeyChange>> changes = keyChanges(true);
+    if (!changes.ok())
+        return changes.error();
+    if (Status status = storeMemos(); !status.ok())
+        return status;
+    return changes->empty() ? m_files->appendRow(m_row) : appendIndexed(*changes, record);
+}
+
+Status Table::appendIndexed(const std::vector<KeyChange> &changes, std::uint32_t record)
+{
+    TableFiles::IndexLock lock;
+    if (Status status = lock.take(*m_files, LockMode::Exclusive, m_settings.patience); !status.ok())
+        return status;
+    if (Status status = changeKeys(changes, record); !status.ok())
+        return status;
+    if (Status status = m_files->appendRow(m_row); !status.ok()) {
+        takeBackKeys(changes, record);
+        return status;
+    }
+    if (Status status = m_files->commitIndex(); !status.ok()) {
+        if (!m_files->exclusive()) {
+            m_files->index()->discard();
+            m_files->undoAppend();
+        }
+        return status;
+    }
+    return lock.release();
+}
+
+} // namespace norvane::engine
