@@ -73,5 +73,10 @@ private:
     norvane::engine::Code m_code;
 };
 
+// Writes the current row's changes through to the files, or the row begun; when that fails nothing
+// of it is kept. The new row's locks are given back.
+bool storeChange(clsDB::Handle table);
+bool storeNewRow(clsDB::Handle table);
+
 // A name as the engine takes it.
 std::string engineText(const QString &text);

@@ -17,21 +17,19 @@ constexpr qint32 Locked = -1;
 const QString CounterName = QStringLiteral("tblname");
 const QString ParamName = QStringLiteral("sid");
 
-// Takes the next value of the counter that `rows` stands on.
+// Takes the next value of the counter that `rows` stands on. Locking reads the row anew, so what
+// another station counted in the meantime is not given out twice.
 qint32 takeNext(TableUse &rows)
 {
     const RowLock lock(rows.handle());
     if (lock.heldElsewhere())
         return Locked;
-    // Another station may have counted on while this one waited for the lock.
-    if (d4go(rows.handle(), d4recNo(rows.handle())) != r4success)
-        return 0;
     const Handle counter = rows.field(QStringLiteral("lastid"));
     const qint32 taken = f4long(counter);
     qint32 next = taken;
     clsSystem::IncL(next);
     f4assignLong(counter, next);
-    return d4flush(rows.handle()) == r4success ? taken : 0;
+    return storeChange(rows.handle()) ? taken : 0;
 }
 
 // Starts a counter. The append lock is taken before looking again, so that of two stations that
@@ -47,9 +45,7 @@ qint32 startCounter(TableUse &rows, const QString &name)
             d4blank(rows.handle());
             f4assignLong(rows.field(QStringLiteral("lastid")), FirstID + 1);
             AssignText(rows.field(CounterName), name);
-            return d4append(rows.handle()) == r4success && d4flush(rows.handle()) == r4success
-                       ? FirstID
-                       : 0;
+            return storeNewRow(rows.handle()) ? FirstID : 0;
         }
     }
     return takeNext(rows);
@@ -92,7 +88,6 @@ QString clsDB::GetParamValue(const QString &name)
 bool clsDB::SetParamValue(const QString &name, const QString &value)
 {
     return guarded("clsDB_SetParamValue", false, [&] {
-        bool stored = false;
         {
             TableUse rows(*this, ParamTable());
             if (!rows)
@@ -104,19 +99,16 @@ bool clsDB::SetParamValue(const QString &name, const QString &value)
                 d4blank(rows.handle());
                 AssignValue(rows.field(ParamName), name.toUpper(), schema::FieldKind::Text);
                 AssignValue(valueField, value, schema::FieldKind::Memo);
-                stored =
-                    d4append(rows.handle()) == r4success && d4flush(rows.handle()) == r4success;
-                d4unlock(rows.handle());
-                return stored;
+                return storeNewRow(rows.handle());
             }
             const RowLock lock(rows.handle());
             if (!lock.heldElsewhere()) {
                 AssignValue(valueField, value, schema::FieldKind::Memo);
-                return d4flush(rows.handle()) == r4success;
+                return storeChange(rows.handle());
             }
         }
         prompts::critical(QStringLiteral("RECORD LOCKED: Unable to update record!"));
-        return stored;
+        return false;
     });
 }
 

@@ -163,9 +163,7 @@ qint32 clsDB::AddCategory(const QString &text, qint32 type, Handle table)
         f4assignLong(rows.field(RowidField), rowid);
         f4assignLong(rows.field(TypeField), type);
         AssignText(rows.field(DescField), text);
-        const bool stored = d4append(table) == r4success && d4flush(table) == r4success;
-        d4unlock(table);
-        return stored ? rowid : NoEntry;
+        return storeNewRow(table) ? rowid : NoEntry;
     });
 }
 

@@ -61,24 +61,24 @@ bool clsDB::updateRow(const RecColl &record, Handle table, bool NoMsg)
 {
     TableUse rows(*this, {}, table);
     rows.select(RowidTag);
-    if (!rows.seek(record.number(QStringLiteral("_rowid")))) {
-        if (!NoMsg)
-            prompts::critical(QStringLiteral("ROWID NOT FOUND: Unable to update record!"));
-        return false;
-    }
+    bool found = rows.seek(record.number(QStringLiteral("_rowid")));
     bool locked = false;
     bool stored = false;
-    {
+    if (found) {
         const RowLock lock(table);
         locked = lock.heldElsewhere();
-        if (!locked) {
+        // Another station may have deleted the row while this one waited for the lock.
+        found = locked || !d4deleted(table);
+        if (found && !locked) {
             UpdateFields(fieldWrites(record, table, false));
-            stored = d4flush(table) == r4success;
+            stored = storeChange(table);
         }
     }
-    // The box waits for the person, so it comes when nothing is locked.
+    // Boxes wait for the person, so they come when nothing is locked any more.
     if (locked)
         prompts::critical(QStringLiteral("RECORD LOCKED: Unable to update record!"));
+    else if (!found && !NoMsg)
+        prompts::critical(QStringLiteral("ROWID NOT FOUND: Unable to update record!"));
     return stored;
 }
 
@@ -93,9 +93,7 @@ bool clsDB::addRow(RecColl &record, Handle table)
     d4blank(table);
     f4assignLong(fieldOf(table, "rowid"), rowid);
     UpdateFields(writes);
-    const bool stored = d4append(table) == r4success && d4flush(table) == r4success;
-    d4unlock(table);
-    return stored;
+    return storeNewRow(table);
 }
 
 void clsDB::UpdateFields(const std::vector<Write> &writes)

@@ -27,8 +27,11 @@ Deletion deleteRow(TableUse &rows, qint32 key)
     const RowLock lock(rows.handle());
     if (lock.heldElsewhere())
         return Deletion::HeldElsewhere;
-    const bool stored = d4delete(rows.handle()) == r4success && d4flush(rows.handle()) == r4success;
-    return stored ? Deletion::Done : Deletion::Failed;
+    // Gone by now: another station was faster.
+    if (d4deleted(rows.handle()))
+        return Deletion::Done;
+    const bool marked = d4delete(rows.handle()) == r4success;
+    return storeChange(rows.handle()) && marked ? Deletion::Done : Deletion::Failed;
 }
 
 void tellLocked(const QString &path, qint32 key)

@@ -17,15 +17,7 @@ clsDB::Handle clsDB::OpenTable(const QString &path)
 {
     if (m_openTables == 0)
         m_failures.clear();
-    const std::string file = clsSystem::LocalPath(path).toStdString();
-    Handle table = d4open(m_hSession, file);
-    if (table < 1 && lastError(m_hSession).kind == ErrorKind::ReadOnly) {
-        code4errorCode(m_hSession, 0);
-        m_failures.clear();
-        code4readOnly(m_hSession, 1);
-        table = d4open(m_hSession, file);
-        code4readOnly(m_hSession, 0);
-    }
+    const Handle table = d4open(m_hSession, clsSystem::LocalPath(path).toStdString());
     if (table > 0) {
         ++m_openTables;
         return table;
@@ -127,4 +119,20 @@ RowLock::RowLock(clsDB::Handle table, std::uint32_t record)
 RowLock::~RowLock()
 {
     d4unlock(m_table);
+}
+
+bool storeChange(clsDB::Handle table)
+{
+    const bool stored = d4flush(table) == r4success;
+    if (!stored)
+        d4discard(table);
+    return stored;
+}
+
+bool storeNewRow(clsDB::Handle table)
+{
+    const bool appended = d4append(table) == r4success;
+    const bool stored = storeChange(table) && appended;
+    d4unlock(table);
+    return stored;
 }
