@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QSignalSpy>
 #include <QTest>
@@ -160,6 +162,15 @@ TEST_F(ListViewTest, EnterAndDoubleClickActivateAndEnterWithoutASelectionGoesOn)
     ASSERT_EQ(activated.size(), 2);
     EXPECT_EQ(activated[0][0].toString(), key(7));
     EXPECT_EQ(activated[1][0].toString(), key(7));
+}
+
+TEST_F(ListViewTest, CopiesTheShownColumnsOfTheSelectedRows)
+{
+    add(1, QStringLiteral("Ann"), QStringLiteral("2/1/2004"), QStringLiteral("20040201"));
+    add(2, QStringLiteral("Bob"), QStringLiteral("3/1/2004"), QStringLiteral("20040301"));
+    LvSelectAllItems(&m_list, true);
+    QTest::keyClick(&m_list, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("Ann\t2/1/2004\nBob\t3/1/2004"));
 }
 
 TEST_F(ListViewTest, RemovesByKeyAndClearKeepsTheOrderForTheNextLoad)

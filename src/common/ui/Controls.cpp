@@ -8,6 +8,8 @@
 #include <QPlainTextEdit>
 #include <QTextEdit>
 
+#include <algorithm>
+
 namespace
 {
 
@@ -28,6 +30,13 @@ bool isDark(const QColor &base)
     return base.lightness() < 128;
 }
 
+// Styles pale the colour of a button; this one comes out about as strong as the field beside it.
+QColor buttonTint(const QColor &back)
+{
+    return QColor::fromHsv(std::max(back.hsvHue(), 0), std::min(255, back.hsvSaturation() * 8 / 5),
+                           back.value());
+}
+
 // A disabled box greys its text; what a record holds must stay readable while it is locked.
 void paintField(QWidget *field, bool locked)
 {
@@ -38,7 +47,8 @@ void paintField(QWidget *field, bool locked)
     palette.setColor(QPalette::Base, back);
     palette.setColor(QPalette::Text, text);
     if (locked) {
-        palette.setColor(QPalette::Button, back); // a pick-only box is drawn as a button
+        palette.setColor(QPalette::Button,
+                         buttonTint(back)); // a pick-only box is drawn as a button
         palette.setColor(QPalette::ButtonText, text);
     }
     field->setPalette(palette);

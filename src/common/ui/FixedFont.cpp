@@ -1,6 +1,7 @@
 #include "common/ui/FixedFont.h"
 
 #include <QFontMetrics>
+#include <QRect>
 #include <QScreen>
 #include <QWidget>
 
@@ -20,18 +21,17 @@ QSize fixedPitchSize(const QWidget *widget, const QString &text, QSize least, QS
 {
     const QFontMetrics metrics(fixedPitchFont());
     const int columnWidth = metrics.horizontalAdvance(u'M');
-    const QStringList lines = text.split(u'\n');
-    qsizetype columns = least.width();
-    for (const QString &line : lines)
-        columns = std::max(columns, line.size());
-    columns = std::min<qsizetype>(columns, most.width());
-    qsizetype rows = 0;
-    for (const QString &line : lines) // a long line is wrapped
-        rows += 1 + std::max<qsizetype>(line.size() - 1, 0) / columns;
-    rows = std::clamp<qsizetype>(rows, least.height(), most.height());
+    // More than fills the largest box need not be measured.
+    const QString sample = text.left(most.width() * most.height());
+    int columns = least.width();
+    for (const QString &line : sample.split(u'\n'))
+        columns = std::max(columns, static_cast<int>(line.size()));
+    columns = std::min(columns, most.width());
+    const QRect page(0, 0, columns * columnWidth, QWIDGETSIZE_MAX);
+    const int height = metrics.boundingRect(page, Qt::TextWordWrap, sample).height();
+    const int rows = std::clamp(height / metrics.lineSpacing() + 1, least.height(), most.height());
     // Room for the box's frame, its document margin and a scroll bar.
-    const QSize wanted(static_cast<int>(columns + 4) * columnWidth,
-                       static_cast<int>(rows + 1) * metrics.lineSpacing());
+    const QSize wanted((columns + 4) * columnWidth, (rows + 1) * metrics.lineSpacing());
     const QScreen *screen = widget->screen();
     return screen != nullptr ? wanted.boundedTo(screen->availableSize() * 4 / 5) : wanted;
 }

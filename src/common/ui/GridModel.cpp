@@ -86,7 +86,7 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
         if (role == Qt::DisplayRole)
             return rowLabel(section);
         if (role == Qt::TextAlignmentRole)
-            return QVariant::fromValue(Qt::Alignment(Qt::AlignRight | Qt::AlignVCenter));
+            return QVariant::fromValue(Qt::Alignment(Qt::AlignCenter));
     }
     return {};
 }

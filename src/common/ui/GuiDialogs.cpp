@@ -72,27 +72,29 @@ QMessageBox::StandardButton buttonOf(Answer answer)
     return QMessageBox::Ok;
 }
 
-void setKind(QMessageBox &box, Kind kind)
+// Our own pictures: what the toolkit brings along for desktops without an icon theme is not for
+// dark palettes, and has none for a lock.
+QString pictureOf(Kind kind)
 {
     switch (kind) {
-    case Kind::Information:
-        box.setIcon(QMessageBox::Information);
-        break;
     case Kind::Warning:
-        box.setIcon(QMessageBox::Warning);
-        break;
+        return QStringLiteral("warning");
     case Kind::Critical:
-        box.setIcon(QMessageBox::Critical);
-        break;
+        return QStringLiteral("critical");
     case Kind::Question:
-        box.setIcon(QMessageBox::Question);
-        break;
-    case Kind::Locked: {
-        const int size = box.style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, &box);
-        box.setIconPixmap(icon(QStringLiteral("locked")).pixmap(QSize(size, size)));
+        return QStringLiteral("question");
+    case Kind::Locked:
+        return QStringLiteral("locked");
+    case Kind::Information:
         break;
     }
-    }
+    return QStringLiteral("info");
+}
+
+void setPicture(QMessageBox &box, Kind kind)
+{
+    const int size = box.style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, &box);
+    box.setIconPixmap(icon(pictureOf(kind)).pixmap(QSize(size, size), box.devicePixelRatioF()));
 }
 
 // What Esc and the close button of the frame mean: the button that does nothing.
@@ -186,7 +188,7 @@ Answer guidialogs::message(const prompts::Message &message)
     box.setWindowTitle(message.title.isEmpty() ? app::title() : message.title);
     box.setTextFormat(Qt::PlainText);
     box.setText(message.text);
-    setKind(box, message.kind);
+    setPicture(box, message.kind);
     const QList<Answer> buttons =
         message.buttons.isEmpty() ? QList<Answer>{Answer::Ok} : message.buttons;
     for (const Answer button : buttons)

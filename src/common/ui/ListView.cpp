@@ -2,15 +2,35 @@
 
 #include "common/ui/ListViewModel.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QStyledItemDelegate>
 
 #include <algorithm>
+
+namespace
+{
+
+// Rows with a little air between them.
+class RowDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, 4);
+    }
+};
+
+} // namespace
 
 ListView::ListView(QWidget *parent) : QTreeView(parent), m_model(new ListViewModel(this))
 {
     setModel(m_model);
+    setItemDelegate(new RowDelegate(this));
     setRootIsDecorated(false);
     setItemsExpandable(false);
     setExpandsOnDoubleClick(false);
@@ -183,6 +203,10 @@ void ListView::paintEvent(QPaintEvent *event)
 
 void ListView::keyPressEvent(QKeyEvent *event)
 {
+    if (event->matches(QKeySequence::Copy)) {
+        copySelection();
+        return;
+    }
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (!enter)
         QTreeView::keyPressEvent(event);
@@ -190,4 +214,21 @@ void ListView::keyPressEvent(QKeyEvent *event)
         Q_EMIT itemActivated(LvGetSelectedItemKey(this));
     else
         event->ignore(); // the form's default button may have it
+}
+
+// The shown columns of the selected rows, as a spreadsheet takes them.
+void ListView::copySelection() const
+{
+    QStringList lines;
+    for (int row = 0; row < m_model->count(); ++row) {
+        if (!selectionModel()->isRowSelected(row))
+            continue;
+        QStringList texts;
+        for (int column = 0; column < m_model->columnCount(); ++column)
+            if (!isColumnHidden(column))
+                texts.append(itemText(row, column));
+        lines.append(texts.join(u'\t'));
+    }
+    if (!lines.isEmpty())
+        QGuiApplication::clipboard()->setText(lines.join(u'\n'));
 }

@@ -69,6 +69,7 @@ protected:
 
 private:
     void showSortIndicator();
+    void copySelection() const;
     int widthFromDesign(int pixels) const;
 
     ListViewModel *m_model;

@@ -18,8 +18,9 @@ frmMessage::frmMessage(QWidget *parent) : QDialog(parent), ui(std::make_unique<U
     ui->cmdCopy->setIcon(icon(QStringLiteral("copy")));
 
     const int size = style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, this);
-    const auto paint = [size](QLabel *label, const QString &name) {
-        label->setPixmap(icon(name).pixmap(QSize(size, size)));
+    const qreal ratio = devicePixelRatioF();
+    const auto paint = [size, ratio](QLabel *label, const QString &name) {
+        label->setPixmap(icon(name).pixmap(QSize(size, size), ratio));
     };
     paint(ui->ImageInfo, QStringLiteral("info"));
     paint(ui->imgWarn, QStringLiteral("warning"));

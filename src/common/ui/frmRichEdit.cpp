@@ -26,6 +26,7 @@ void frmRichEdit::Init(const QString &title, const QString &text)
     setWindowTitle(title);
     ui->txtRichEdit->setPlainText(text);
     ui->txtRichEdit->setFont(fixedPitchFont());
+    ui->txtRichEdit->document()->setDocumentMargin(fontMetrics().averageCharWidth());
     ui->txtRichEdit->moveCursor(QTextCursor::Start);
     resize(sizeHint());
 }
