@@ -1,0 +1,193 @@
+#include "engine/Churn.h"
+
+#include "engine/TableFixture.h"
+
+#include <map>
+#include <random>
+
+using namespace norvane::engine;
+
+namespace enginetest
+{
+
+namespace
+{
+
+// One number as the program takes it: seek, lock, read, add one, store.
+std::string takeId(Handle session, const std::string &path, int &id)
+{
+    const Handle table = d4open(session, path);
+    if (table == 0)
+        return "not opened: " + lastError(session).detail;
+    std::string problem;
+    if (d4seek(table, "PEOPLE.DBF") != r4success)
+        problem = "counter row not found";
+    else if (d4lock(table, d4recNo(table)) != r4success)
+        problem = "not locked: " + lastError(session).detail;
+    else {
+        const Handle field = d4field(table, "lastid");
+        id = f4long(field);
+        f4assignLong(field, id + 1);
+        if (d4flush(table) != r4success || d4unlock(table) != r4success)
+            problem = "not stored: " + lastError(session).detail;
+    }
+    d4close(table);
+    return problem;
+}
+
+class Churner
+{
+public:
+    Churner(Handle session, std::string path, int seed)
+        : m_session(session),
+          m_path(std::move(path)),
+          m_random(static_cast<std::uint32_t>(seed)),
+          m_nextId(seed * 1000000)
+    {
+    }
+
+    std::string step()
+    {
+        // open and closed around each change, now and then kept open for a few
+        if (m_table == 0 && (m_table = d4open(m_session, m_path)) == 0)
+            return "not opened: " + lastError(m_session).detail;
+        const int choice = number(10);
+        std::string problem;
+        if (m_names.size() < 5 || choice < 4)
+            problem = insert();
+        else if (choice < 8)
+            problem = update();
+        else
+            problem = remove();
+        if (number(3) > 0)
+            closeTable();
+        return problem;
+    }
+
+    std::string finish()
+    {
+        if (m_table == 0)
+            m_table = d4open(m_session, m_path);
+        std::string problem;
+        for (const auto &[id, name] : m_names) {
+            if (findPerson(m_table, id) != r4success || text(m_table, "name") != name)
+                problem = "row " + std::to_string(id) + " is not as it was stored";
+        }
+        closeTable();
+        return problem;
+    }
+
+private:
+    int number(int below) { return static_cast<int>(m_random() % static_cast<unsigned>(below)); }
+    std::string name() { return "Name " + std::to_string(number(100000)); }
+    std::string note() { return std::string(static_cast<std::size_t>(number(300)), 'n'); }
+    std::string failed(const char *what)
+    {
+        return std::string(what) + ": " + lastError(m_session).detail;
+    }
+    void closeTable()
+    {
+        d4close(m_table);
+        m_table = 0;
+    }
+
+    std::string insert()
+    {
+        const int id = m_nextId++;
+        const std::string stored = name();
+        if (addPerson(m_table, id, stored, note()) != r4success)
+            return failed("append");
+        m_names[id] = stored;
+        return checkFound(id, stored);
+    }
+
+    std::string lockSome(int &id)
+    {
+        auto chosen = m_names.begin();
+        std::advance(chosen, number(static_cast<int>(m_names.size())));
+        id = chosen->first;
+        if (findPerson(m_table, id) != r4success)
+            return "row " + std::to_string(id) + " is not found";
+        return d4lock(m_table, d4recNo(m_table)) == r4success ? "" : failed("lock");
+    }
+
+    std::string update()
+    {
+        int id = 0;
+        if (std::string problem = lockSome(id); !problem.empty())
+            return problem;
+        std::string stored = m_names[id];
+        if (number(2) == 0) {
+            stored = name();
+            assign(m_table, "name", stored);
+        }
+        assign(m_table, "city", "City " + std::to_string(number(50)));
+        assign(m_table, "active", number(2) == 0 ? "T" : "F");
+        if (number(3) == 0)
+            assignMemo(m_table, "detail", note());
+        if (d4flush(m_table) != r4success || d4unlock(m_table) != r4success)
+            return failed("update");
+        m_names[id] = stored;
+        return checkFound(id, stored);
+    }
+
+    std::string remove()
+    {
+        int id = 0;
+        if (std::string problem = lockSome(id); !problem.empty())
+            return problem;
+        if (d4delete(m_table) != r4success || d4flush(m_table) != r4success ||
+            d4unlock(m_table) != r4success)
+            return failed("delete");
+        m_names.erase(id);
+        return findPerson(m_table, id) == r4success
+                   ? "row " + std::to_string(id) + " is found after its deletion"
+                   : "";
+    }
+
+    std::string checkFound(int id, const std::string &stored)
+    {
+        if (findPerson(m_table, id) != r4success)
+            return "row " + std::to_string(id) + " is not found after its store";
+        return text(m_table, "name") == stored ? ""
+                                               : "row " + std::to_string(id) + " is not as stored";
+    }
+
+    Handle m_session;
+    std::string m_path;
+    std::mt19937 m_random;
+    int m_nextId;
+    Handle m_table = 0;
+    std::map<int, std::string> m_names; // of the rows that this station made
+};
+
+} // namespace
+
+std::string takeIds(Handle session, const std::string &path, int count)
+{
+    int first = 0;
+    int last = 0;
+    for (int i = 0; i < count; ++i) {
+        const int before = last;
+        if (std::string problem = takeId(session, path, last); !problem.empty())
+            return problem;
+        if (i == 0)
+            first = last;
+        else if (last <= before)
+            return "number " + std::to_string(last) + " came twice";
+    }
+    return std::to_string(first) + ' ' + std::to_string(last);
+}
+
+std::string churn(Handle session, const std::string &path, int seed, int count)
+{
+    Churner churner(session, path, seed);
+    for (int i = 0; i < count; ++i) {
+        if (std::string problem = churner.step(); !problem.empty())
+            return problem;
+    }
+    const std::string problem = churner.finish();
+    return problem.empty() ? "ok" : problem;
+}
+
+} // namespace enginetest

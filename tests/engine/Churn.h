@@ -1,0 +1,19 @@
+// Work that several stations do at once in the tests and the stress program.
+#pragma once
+
+#include "db/engine/engine.h"
+
+#include <string>
+
+namespace enginetest
+{
+
+// Takes numbers from the counter row "people.dbf", opening and closing the table each time as the
+// program does. "first last", or what went wrong.
+std::string takeIds(norvane::engine::Handle session, const std::string &path, int count);
+
+// Random inserts, updates (keys and memos too) and deletes of people, numbers from `seed` * 1e6
+// on, each checked at once: what was stored must be found again. "ok", or what went wrong.
+std::string churn(norvane::engine::Handle session, const std::string &path, int seed, int count);
+
+} // namespace enginetest

@@ -1,0 +1,33 @@
+// A second workstation in a process of its own: engine_station, driven over two pipes. Commands
+// are those of engine_station.cpp, one a line; each is answered by one line.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include <sys/types.h>
+
+namespace enginetest
+{
+
+class Station
+{
+public:
+    Station();
+    ~Station(); // ends the process
+    Station(const Station &) = delete;
+    Station &operator=(const Station &) = delete;
+
+    std::string ask(std::string_view command);
+    // For commands that take their time: the answer comes with answer().
+    void tell(std::string_view command);
+    std::string answer();
+    void kill(); // as a crash would
+
+private:
+    pid_t m_process = -1;
+    int m_in = -1;  // we write
+    int m_out = -1; // we read
+};
+
+} // namespace enginetest

@@ -1,0 +1,246 @@
+// Two sessions in one process and two processes must see each other's locks alike.
+#include "engine/Station.h"
+#include "engine/TableFixture.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <thread>
+
+using namespace norvane::engine;
+using namespace enginetest;
+using namespace std::chrono_literals;
+
+namespace
+{
+
+class Locks : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        makeTable(m_path, peopleTable());
+        m_table = d4open(m_session, m_path);
+        ASSERT_GT(m_table, 0);
+        for (int id = 1; id <= 3; ++id)
+            ASSERT_EQ(addPerson(m_table, id, "Person " + std::to_string(id)), r4success);
+    }
+
+    TempFolder m_folder;
+    std::string m_path = m_folder / "people.dbf";
+    TestSession m_session;
+    Handle m_table = 0;
+};
+
+TEST_F(Locks, ARowIsHeldAgainstAnotherSessionOnly)
+{
+    TestSession other;
+    const Handle theirs = d4open(other, m_path);
+    const Handle second = d4open(m_session, m_path);
+    ASSERT_EQ(d4lock(m_table, 1), r4success);
+    EXPECT_EQ(d4lock(m_table, 1), r4success); // again
+    EXPECT_EQ(d4lock(second, 1), r4success);  // same session
+    EXPECT_EQ(d4lock(theirs, 1), d4locked);
+    EXPECT_EQ(d4lock(theirs, 2), r4success); // another row
+    d4close(second);                         // takes nothing away from the first handle
+    EXPECT_EQ(d4lock(theirs, 1), d4locked);
+    EXPECT_EQ(findPerson(theirs, 1), r4success); // reading goes on
+    d4unlock(m_table);
+    EXPECT_EQ(d4lock(theirs, 1), r4success);
+    EXPECT_TRUE(other.takeErrors().empty()); // a refusal is an answer, not a failure
+}
+
+TEST_F(Locks, AnotherProcessIsKeptOutUntilUnlockOrDeath)
+{
+    Station station;
+    ASSERT_NE(station.ask("open " + m_path), "0");
+    station.ask("attempts 1 1");
+    ASSERT_EQ(d4lock(m_table, 2), r4success);
+    EXPECT_EQ(station.ask("lock 2"), "50");
+    const Handle reader = d4open(m_session, m_path); // opening and closing must not let go
+    d4close(reader);
+    EXPECT_EQ(station.ask("lock 2"), "50");
+    d4unlock(m_table);
+    EXPECT_EQ(station.ask("lock 2"), "0");
+    EXPECT_EQ(d4lock(m_table, 2), d4locked);
+    station.kill();
+    code4lockAttempts(m_session, 20);
+    EXPECT_EQ(d4lock(m_table, 2), r4success);
+}
+
+TEST_F(Locks, WaitingLastsAttemptsTimesDelayAndTellsTheProgram)
+{
+    TestSession other;
+    const Handle theirs = d4open(other, m_path);
+    ASSERT_EQ(d4lock(m_table, 1), r4success);
+    code4lockAttempts(other, 5);
+    code4lockDelay(other, 4);
+    int told = 0;
+    code4waitHandler(other, [&told](std::chrono::milliseconds) { ++told; });
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_EQ(d4lock(theirs, 1), d4locked);
+    const auto waited = std::chrono::steady_clock::now() - start;
+    EXPECT_GE(waited, 200ms);
+    EXPECT_LT(waited, 1000ms);
+    EXPECT_GT(told, 2);
+
+    // without end, until it comes; a short hold costs a short wait
+    code4lockAttempts(other, -1);
+    code4waitHandler(other, [this](std::chrono::milliseconds so_far) {
+        if (so_far > 30ms)
+            d4unlock(m_table);
+    });
+    EXPECT_EQ(d4lock(theirs, 1), r4success);
+}
+
+TEST_F(Locks, ALockBringsTheRowAsTheOtherLeftIt)
+{
+    Station station;
+    ASSERT_NE(station.ask("open " + m_path), "0");
+    ASSERT_EQ(findPerson(m_table, 2), r4success);
+    ASSERT_EQ(station.ask("lock 2"), "0");
+    EXPECT_EQ(station.ask("set name Changed"), "there is no current row to change");
+    station.ask("tag rowid");
+    ASSERT_EQ(station.ask("id 2"), "0");
+    EXPECT_EQ(station.ask("set name Changed"), "ok");
+    EXPECT_EQ(station.ask("setmemo notes a long story"), "ok");
+    EXPECT_EQ(station.ask("unlock"), "0");
+    EXPECT_EQ(text(m_table, "name"), "Person 2"); // as it was read
+    ASSERT_EQ(d4lock(m_table, 2), r4success);
+    EXPECT_EQ(text(m_table, "name"), "Changed");
+    EXPECT_EQ(memo(m_table, "notes"), "a long story");
+    d4unlock(m_table);
+    selectTag(m_table, "name");
+    EXPECT_EQ(d4seek(m_table, "changed"), r4success);
+    EXPECT_NE(d4seek(m_table, "person 2"), r4success);
+}
+
+TEST_F(Locks, WhatAnotherStationAddsOrDeletesIsSeenAtTheNextSeek)
+{
+    Station station;
+    station.ask("open " + m_path);
+    ASSERT_EQ(findPerson(m_table, 3), r4success);
+    station.ask("begin");
+    station.ask("set rowid 4");
+    ASSERT_EQ(station.ask("append"), "0");
+    EXPECT_EQ(d4recCountDo(m_table), 4U);
+    EXPECT_EQ(d4skip(m_table, 1), r4success);
+    EXPECT_EQ(f4long(d4field(m_table, "rowid")), 4);
+    station.ask("unlock");
+    station.ask("tag rowid");
+    station.ask("id 1");
+    station.ask("lock 1");
+    station.ask("delete");
+    ASSERT_EQ(station.ask("unlock"), "0");
+    EXPECT_EQ(d4seekDouble(m_table, 1), r4after);
+    EXPECT_EQ(f4long(d4field(m_table, "rowid")), 2);
+    EXPECT_EQ(findings(m_path), "");
+}
+
+TEST_F(Locks, TheAppendLockStopsOtherAppends)
+{
+    TestSession other;
+    const Handle theirs = d4open(other, m_path);
+    ASSERT_EQ(d4lock(m_table, 0), r4success);
+    EXPECT_EQ(addPerson(theirs, 50, "Later"), d4locked);
+    EXPECT_EQ(d4recCountDo(theirs), 3U);
+    d4appendStartVB(m_table, 0);
+    d4blank(m_table);
+    f4assignLong(d4field(m_table, "rowid"), 40);
+    EXPECT_EQ(d4append(m_table), r4success); // uses the lock it has
+    EXPECT_EQ(d4lock(theirs, 0), d4locked);  // and keeps it
+    EXPECT_EQ(d4lock(theirs, 4), d4locked);  // the new row is locked too
+    d4unlock(m_table);
+    EXPECT_EQ(addPerson(theirs, 50, "Later"), r4success);
+    EXPECT_EQ(findings(m_path), "");
+}
+
+TEST_F(Locks, SoleUseAndSharedUseExcludeEachOther)
+{
+    TestSession other;
+    code4accessMode(other, 1);
+    EXPECT_EQ(d4open(other, m_path), 0);
+    EXPECT_EQ(other.lastKind(), ErrorKind::Locked);
+    d4close(m_table);
+    const Handle alone = d4open(other, m_path);
+    ASSERT_GT(alone, 0);
+    EXPECT_EQ(d4open(m_session, m_path), 0);
+    Station station;
+    EXPECT_EQ(station.ask("open " + m_path), "0");
+    d4close(alone);
+    m_table = d4open(m_session, m_path);
+    EXPECT_GT(m_table, 0);
+
+    code4accessMode(m_session, 1); // alone while this session's own handle stays open
+    const Handle sole = d4open(m_session, m_path);
+    EXPECT_GT(sole, 0);
+    EXPECT_EQ(station.ask("open " + m_path), "0");
+    d4close(sole);
+    EXPECT_NE(station.ask("open " + m_path), "0"); // shared again with the first handle
+}
+
+TEST(LockStress, NoNumberIsGivenTwiceByFourStations)
+{
+    const TempFolder folder;
+    const std::string path = folder / "counter.dbf";
+    makeTable(path, counterTable());
+    const TestSession session;
+    const Handle table = d4open(session, path);
+    d4appendStartVB(table, 0);
+    d4blank(table);
+    assign(table, "tblname", "people.dbf");
+    f4assignLong(d4field(table, "lastid"), 1000);
+    ASSERT_EQ(d4append(table), r4success);
+    d4close(table);
+
+    constexpr int each = 2000;
+    Station stations[4];
+    for (Station &station : stations)
+        station.tell("ids " + path + ' ' + std::to_string(each));
+    for (Station &station : stations) {
+        const std::string answer = station.answer();
+        EXPECT_NE(answer.find(' '), std::string::npos) << answer;
+        EXPECT_TRUE(answer.find_first_not_of("0123456789 ") == std::string::npos) << answer;
+    }
+    const Handle after = d4open(session, path);
+    ASSERT_EQ(d4seek(after, "people.dbf"), r4success);
+    EXPECT_EQ(f4long(d4field(after, "lastid")), 1000 + 4 * each);
+}
+
+TEST(LockStress, FourStationsChangingATableLeaveItSound)
+{
+    const TempFolder folder;
+    const std::string path = folder / "people.dbf";
+    makeTable(path, peopleTable());
+    Station stations[4];
+    int seed = 0;
+    for (Station &station : stations)
+        station.tell("churn " + path + ' ' + std::to_string(++seed) + " 400");
+    for (Station &station : stations)
+        EXPECT_EQ(station.answer(), "ok");
+    EXPECT_EQ(findings(path), "");
+}
+
+TEST(LockStress, ADyingStationLeavesNoLockAndNothingARebuildCannotMend)
+{
+    const TempFolder folder;
+    const std::string path = folder / "people.dbf";
+    makeTable(path, peopleTable());
+    for (int round = 1; round <= 10; ++round) {
+        Station station;
+        station.tell("churn " + path + ' ' + std::to_string(round) + " 100000");
+        std::this_thread::sleep_for(std::chrono::milliseconds(20 + 7 * round));
+        station.kill();
+        TestSession session(50, 10);
+        code4accessMode(session, 1);
+        const Handle table = d4open(session, path);
+        ASSERT_GT(table, 0);
+        EXPECT_EQ(d4reindex(table), r4success);
+        // what the dead one wrote behind the count gives way to the next row
+        EXPECT_EQ(addPerson(table, 999, "Survivor", "note"), r4success);
+        d4close(table);
+        EXPECT_EQ(findings(path), "");
+    }
+}
+
+} // namespace
