@@ -110,8 +110,8 @@ QString adviceForMissing(const schema::TableInfo &table, const QString &file)
         return QStringLiteral("Opening the database in Norvane puts an empty one in its place; if "
                               "it held data, restore it from your last backup first.");
     if (isIndex(file))
-        return QStringLiteral("Restore it from your last backup, together with all files of the "
-                              "folder.");
+        return QStringLiteral("No data is lost, but the database cannot be opened without it. ") +
+               restore();
     return restore();
 }
 

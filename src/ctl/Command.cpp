@@ -9,6 +9,7 @@ namespace
 {
 
 constexpr int OptionColumn = 16;
+constexpr int PageWidth = 90;
 
 bool needed(const QString &word)
 {
@@ -106,6 +107,20 @@ bool parseArguments(const Command &command, const QStringList &words, Arguments 
         return false;
     }
     return true;
+}
+
+QString wrappedList(const QStringList &items)
+{
+    QString text;
+    QString line = QStringLiteral(" ");
+    for (const QString &item : items) {
+        if (line.size() + item.size() + 2 > PageWidth) {
+            text += line + u'\n';
+            line = QStringLiteral(" ");
+        }
+        line += u' ' + item + (item == items.last() ? QString() : QStringLiteral(","));
+    }
+    return text + line;
 }
 
 } // namespace ctl

@@ -41,6 +41,9 @@ struct Command {
 bool parseArguments(const Command &command, const QStringList &words, Arguments &arguments,
                     QString &error);
 
+// "  a, b,\n  c": the items for a help page, indented, broken into lines.
+QString wrappedList(const QStringList &items);
+
 Command newCommand();
 Command demoCommand();
 Command importCommand();

@@ -1,8 +1,6 @@
 #include "ctl/DatabaseFolder.h"
 #include "ctl/FolderCheck.h"
 
-#include <algorithm>
-
 namespace ctl
 {
 
@@ -15,13 +13,18 @@ int run(const Arguments &arguments, Console &console)
     if (!folderIsThere(dir, console))
         return Problem;
     FolderCheck check(dir);
+    if (!check.hasDatabase()) {
+        console.err << QStringLiteral("The folder '%1' holds no database.\n").arg(shownPath(dir));
+        return Problem;
+    }
     const QList<Finding> &findings = check.run();
     for (const Finding &finding : findings)
         console.out << QStringLiteral("%1%2: %3. %4\n")
                            .arg(finding.serious ? QString() : QStringLiteral("Note: "),
                                 finding.file, finding.text, finding.advice);
-    const auto problems = std::count_if(findings.begin(), findings.end(),
-                                        [](const Finding &finding) { return finding.serious; });
+    qint64 problems = 0;
+    for (const Finding &finding : findings)
+        problems += finding.serious ? finding.count : 0;
     if (problems == 0) {
         console.out << QStringLiteral("The database in '%1' is sound.\n").arg(shownPath(dir));
         return Done;

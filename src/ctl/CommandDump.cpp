@@ -29,12 +29,12 @@ constexpr TableName TableNames[] = {
     {"parameters", schema::Table::Param},
 };
 
-QString tableNames()
+QStringList tableNames()
 {
     QStringList names;
     for (const TableName &entry : TableNames)
         names << QLatin1String(entry.name);
-    return names.join(QStringLiteral(", "));
+    return names;
 }
 
 // The name of the data file as the command line gives it: a table's name or a file's. Empty when
@@ -68,7 +68,7 @@ int run(const Arguments &arguments, Console &console)
     const QString wanted = wantedFile(arguments.words.at(1));
     if (wanted.isEmpty()) {
         console.err << QStringLiteral("'%1' is no table; TABLE is one of %2, or a table file.\n")
-                           .arg(arguments.words.at(1), tableNames());
+                           .arg(arguments.words.at(1), tableNames().join(QStringLiteral(", ")));
         return WrongUse;
     }
     const QString file = fileInFolder(dir, wanted);
@@ -104,8 +104,8 @@ Command dumpCommand()
             QStringLiteral("One JSON object a line, in the order of the rowid, deleted rows left "
                            "out. Field names are\nin lower case, identifiers are numbers, memos "
                            "are whole, dates stand as stored (YYYYMMDD).\n\nTABLE is one of\n"
-                           "  %1\nor the name of a table file in the folder, such as nvncust.dbf.")
-                .arg(tableNames()),
+                           "%1,\nor the name of a table file in the folder, such as nvncust.dbf.")
+                .arg(wrappedList(tableNames())),
             run};
 }
 

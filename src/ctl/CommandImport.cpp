@@ -16,7 +16,8 @@ int run(const Arguments &arguments, Console &console)
     const std::optional<ImportTarget> target = importTarget(arguments.words.at(1));
     if (!target) {
         console.err << QStringLiteral("'%1' cannot be imported; TARGET is one of %2.\n")
-                           .arg(arguments.words.at(1), importTargetNames());
+                           .arg(arguments.words.at(1),
+                                importTargetNames().join(QStringLiteral(", ")));
         return WrongUse;
     }
     if (!fileIsReadable(file, console))
@@ -53,13 +54,13 @@ Command importCommand()
           QStringLiteral("print the rowid of each row as soon as it is saved")}},
         QStringLiteral("Add the rows of a CSV file"),
         QStringLiteral(
-            "TARGET is one of\n  %1.\n\n"
+            "TARGET is one of\n%1.\n\n"
             "FILE is a comma-separated file in Windows-1252, or in UTF-8 with a byte-order mark. "
             "Its\nfirst row holds the headings: DESCRIPTION for a list; LASTNAME and COMPANY and "
             "any of the\nother columns for customers. The whole file is checked before anything "
             "is written. An\nentry that a list has already is not added again.\n\n"
             "The login needs the right of database administration.")
-            .arg(importTargetNames()),
+            .arg(wrappedList(importTargetNames())),
         run};
 }
 

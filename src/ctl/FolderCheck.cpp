@@ -15,7 +15,7 @@ using namespace norvane::engine;
 namespace
 {
 
-constexpr std::size_t MostFindingsOfATable = 20;
+constexpr qint64 MostFindingsOfAFile = 8;
 constexpr int LockAttempts = 10;
 constexpr qint32 FirstIdentifier = 1000;
 
@@ -48,6 +48,16 @@ const QList<Finding> &FolderCheck::run()
     checkCounters();
     checkReferences();
     return m_findings;
+}
+
+bool FolderCheck::hasDatabase() const
+{
+    const auto &tables = schema::tables();
+    return std::any_of(tables.begin(), tables.end(), [this](const schema::TableInfo &table) {
+        const QStringList files = table.files();
+        return std::any_of(files.begin(), files.end(),
+                           [this](const QString &file) { return !pathOf(file).isEmpty(); });
+    });
 }
 
 void FolderCheck::add(const QString &file, const QString &text, const QString &advice, bool serious)
@@ -99,17 +109,29 @@ void FolderCheck::checkTable(const schema::TableInfo &table)
         return;
     }
     checkFields(table, handle);
-    const std::vector<std::string> lines = d4check(handle);
-    for (std::size_t i = 0; i < std::min(lines.size(), MostFindingsOfATable); ++i) {
-        const ExplainedLine line = explainLine(QString::fromStdString(lines[i]), table);
-        add(line.file, line.text, adviceFor(line.file, ErrorKind::Damaged));
-    }
-    if (lines.size() > MostFindingsOfATable)
-        add(table.dataFile(),
-            QStringLiteral("%1 more findings like these").arg(lines.size() - MostFindingsOfATable),
-            QStringLiteral("The advice above holds for them too."));
+    explain(table, d4check(handle));
     checkRows(table, handle);
     d4close(handle);
+}
+
+// Damage of one kind repeats itself, so each file shows its first findings and counts the rest.
+void FolderCheck::explain(const schema::TableInfo &table, const std::vector<std::string> &lines)
+{
+    QHash<QString, qint64> found;
+    for (const std::string &line : lines) {
+        const ExplainedLine explained = explainLine(QString::fromStdString(line), table);
+        if (++found[explained.file] <= MostFindingsOfAFile)
+            add(explained.file, explained.text, adviceFor(explained.file, ErrorKind::Damaged));
+    }
+    const QStringList files = table.files();
+    for (const QString &file : files) {
+        const qint64 more = found.value(file) - MostFindingsOfAFile;
+        if (more < 1)
+            continue;
+        add(file, QStringLiteral("%1 more findings like these").arg(more),
+            QStringLiteral("The advice above holds for them too."));
+        m_findings.last().count = more;
+    }
 }
 
 void FolderCheck::checkFields(const schema::TableInfo &table, Handle handle)
@@ -155,8 +177,7 @@ void FolderCheck::checkIdentifiers(const schema::TableInfo &table, const RowFact
         if (it.value() > 1 || it.key() < 1)
             wrong << it.key();
     std::sort(wrong.begin(), wrong.end());
-    const auto most = static_cast<qsizetype>(MostFindingsOfATable);
-    for (const qint32 id : wrong.mid(0, most)) {
+    for (const qint32 id : wrong.mid(0, MostFindingsOfAFile)) {
         const QString text = id < 1
                                  ? QStringLiteral("%1 rows have the rowid %2, which no record has")
                                  : QStringLiteral("%1 rows share the rowid %2");

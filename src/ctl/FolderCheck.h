@@ -9,6 +9,9 @@
 #include <QList>
 #include <QString>
 
+#include <string>
+#include <vector>
+
 namespace ctl
 {
 
@@ -17,6 +20,7 @@ struct Finding {
     QString text;
     QString advice;
     bool serious = true; // false: worth knowing, nothing is broken
+    qint64 count = 1;    // how many it stands for
 };
 
 class FolderCheck
@@ -27,6 +31,8 @@ public:
     FolderCheck(const FolderCheck &) = delete;
     FolderCheck &operator=(const FolderCheck &) = delete;
 
+    // False when no file of a database is there at all.
+    bool hasDatabase() const;
     const QList<Finding> &run();
 
 private:
@@ -41,6 +47,7 @@ private:
 
     void checkFiles();
     void checkTable(const schema::TableInfo &table);
+    void explain(const schema::TableInfo &table, const std::vector<std::string> &lines);
     void checkFields(const schema::TableInfo &table, Handle handle);
     void checkRows(const schema::TableInfo &table, Handle handle);
     void checkIdentifiers(const schema::TableInfo &table, const RowFacts &facts);

@@ -46,12 +46,12 @@ std::optional<ImportTarget> importTarget(const QString &name)
     return std::nullopt;
 }
 
-QString importTargetNames()
+QStringList importTargetNames()
 {
     QStringList names;
     for (const ImportTarget &target : importTargets())
         names << target.name;
-    return names.join(QStringLiteral(", "));
+    return names;
 }
 
 std::optional<qint32> importFile(clsDB &db, const ImportTarget &target, const QString &path,

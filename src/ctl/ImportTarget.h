@@ -5,6 +5,7 @@
 #include "db/import/clsImportData.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -21,7 +22,7 @@ struct ImportTarget {
 
 const QList<ImportTarget> &importTargets();
 std::optional<ImportTarget> importTarget(const QString &name);
-QString importTargetNames();
+QStringList importTargetNames();
 
 // Checks the whole file first; when it is sound adds its rows to the open database. The rowid of
 // each row goes to `eachRow`, when given, as soon as its save is acknowledged. The number of rows

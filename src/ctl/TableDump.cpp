@@ -38,10 +38,19 @@ std::vector<Column> columnsOf(Handle table)
     return columns;
 }
 
-// False when the walk ended before the last row.
-bool findRows(Handle table, std::vector<RowPlace> &places)
+// 0 when the table has none; asking the engine for it by name would count as a failure.
+Handle rowidField(const std::vector<Column> &columns)
 {
-    const Handle rowid = d4field(table, "rowid");
+    for (const Column &column : columns)
+        if (column.name == u"rowid")
+            return column.field;
+    return 0;
+}
+
+// False when the walk ended before the last row.
+bool findRows(Handle table, const std::vector<Column> &columns, std::vector<RowPlace> &places)
+{
+    const Handle rowid = rowidField(columns);
     d4tagSelect(table, 0);
     Code code = d4top(table);
     for (; code == r4success; code = d4skip(table, 1))
@@ -175,7 +184,7 @@ bool dumpTable(Handle table, RowFormat format, Console &console)
 {
     const std::vector<Column> columns = columnsOf(table);
     std::vector<RowPlace> places;
-    bool whole = findRows(table, places);
+    bool whole = findRows(table, columns, places);
     if (format == RowFormat::Csv)
         console.out << csvRow(namesOf(columns)) << '\n';
     for (const RowPlace &place : places) {

@@ -26,7 +26,8 @@ CtlResult ctlRun(const QStringList &words, const QString &password)
 QList<QJsonObject> dumpedRows(const QString &dir, const QString &table)
 {
     const CtlResult dump = ctlRun({QStringLiteral("dump"), dir, table});
-    EXPECT_EQ(dump.code, 0) << qPrintable(dump.err);
+    EXPECT_EQ(dump.code, 0);
+    EXPECT_EQ(dump.err, QString());
     QList<QJsonObject> rows;
     const QStringList lines = dump.lines();
     for (const QString &line : lines) {

@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QRegularExpression>
 
 using namespace norvane::engine;
 
@@ -62,7 +63,7 @@ TEST(Check, SaysWhichFileIsMissingAndWhatToDo)
     const CtlResult check = ctlRun({"check", folder.path()});
     EXPECT_EQ(check.code, 1);
     EXPECT_TRUE(says(check.out, "nvnrep.fpt", "missing. Restore")) << qPrintable(check.out);
-    EXPECT_TRUE(says(check.out, "nvncust.cdx", "missing. "));
+    EXPECT_TRUE(says(check.out, "nvncust.cdx", "missing. No data is lost"));
     EXPECT_TRUE(check.err.contains("2 problems were found")) << qPrintable(check.err);
     EXPECT_FALSE(QFile::exists(folder.at("nvnrep.fpt"))) << "a check changes nothing";
 }
@@ -89,6 +90,22 @@ TEST(Check, FindsGarbledHeadersOfTableIndexAndMemo)
         EXPECT_TRUE(says(problems, name, "")) << name << ": " << qPrintable(problems);
         EXPECT_FALSE(problems.contains("nvncat")) << "only what is damaged is named";
     }
+}
+
+TEST(Check, DamageThatRepeatsItselfIsCounted)
+{
+    const CtlFolder folder;
+    QByteArray csv = "LASTNAME,COMPANY,NOTES\n";
+    for (int i = 0; i < 30; ++i)
+        csv += "Doe,,one of thirty\n";
+    ASSERT_EQ(ctlRun({"import", folder.path(), "customers", folder.file("c.csv", csv)}).code, 0);
+    cutTo(folder.at("nvncust.fpt"), 512);
+    const CtlResult check = ctlRun({"check", folder.path()});
+    EXPECT_EQ(check.code, 1);
+    EXPECT_TRUE(says(check.out, "nvncust.fpt", "NOTES")) << qPrintable(check.out);
+    EXPECT_TRUE(says(check.out, "nvncust.fpt", "more findings"));
+    EXPECT_LT(check.lines().size(), 12);
+    EXPECT_TRUE(check.err.contains(QRegularExpression("^3\\d problems")));
 }
 
 TEST(Check, FindsAnIndexThatDoesNotMatchItsRows)
@@ -139,7 +156,7 @@ TEST(Check, ALookupThatIsGoneIsANoteAndNoProblem)
 TEST(Check, AFolderWithoutADatabaseIsNotSound)
 {
     const QTemporaryDir empty;
-    EXPECT_TRUE(says(problemsOf(empty.path()), "nvncust.dbf", "missing"));
+    EXPECT_TRUE(problemsOf(empty.path()).contains("holds no database"));
     EXPECT_TRUE(problemsOf(empty.filePath("nowhere")).contains("does not exist"));
 }
 

@@ -26,7 +26,8 @@ TEST(Import, VerbosePrintsTheRowidOfEachNewRowAndNothingElse)
                                        ",\"B\xFCrgi & S\xF6hne\",vip,\r\n"
                                        ",,,\r\n",
                                        {"--verbose"});
-    ASSERT_EQ(result.code, 0) << qPrintable(result.err);
+    ASSERT_EQ(result.code, 0);
+    EXPECT_EQ(result.err, "Imported 3 customers.\n");
     EXPECT_EQ(result.lines(), QStringList({"1000", "1001", "1002"}));
 
     const QList<QJsonObject> rows = dumpedRows(folder.path(), "customers");

@@ -85,7 +85,7 @@ TEST(Usage, HelpNamesEveryCommandAndEveryOption)
         for (const ctl::Option &option : command.options)
             EXPECT_TRUE(page.out.contains("\n  " + option.name)) << qPrintable(option.name);
         for (const QString &line : page.lines())
-            EXPECT_LE(line.size(), 120) << qPrintable(line);
+            EXPECT_LE(line.size(), 100) << qPrintable(line);
     }
     EXPECT_EQ(ctlRun({"-h"}).out, general.out);
 }
