@@ -16,6 +16,8 @@ namespace
 
 constexpr int kHelpTopic = 1300;
 constexpr int kNotesPage = 1;
+constexpr int kColumnCharacters = 96; // a label and a field of 80
+constexpr int kWindowCharacters = 128;
 
 // Lookup lists that this form shows, by type code.
 constexpr int kCustomerCategories = 1;
@@ -96,14 +98,23 @@ void frmCustomer::bindFields()
         [this] { return QVariant(contacts::text(m_ui->grdContacts)); });
 }
 
-// Boxes for short entries are no wider than what goes into them.
+// Boxes for short entries are no wider than what goes into them, and no column is wider than its
+// longest entries, however wide the window.
 void frmCustomer::tellLengths()
 {
+    const int character = fontMetrics().averageCharWidth();
     for (QLineEdit *box : {m_ui->txtCustNo, m_ui->txtPostalCode, m_ui->txtWorkPhone,
-                           m_ui->txtHomePhone, m_ui->txtMobilePhone, m_ui->txtFaxphone}) {
-        const int characters = box->maxLength() + 2; // room for the frame
-        box->setMaximumWidth(characters * box->fontMetrics().averageCharWidth());
-    }
+                           m_ui->txtHomePhone, m_ui->txtMobilePhone, m_ui->txtFaxphone})
+        box->setMaximumWidth((box->maxLength() + 2) * character);
+    for (QWidget *column : {m_ui->columnLeft, m_ui->columnRight})
+        column->setMaximumWidth(kColumnCharacters * character);
+}
+
+// Wide enough for the contacts grid.
+QSize frmCustomer::sizeHint() const
+{
+    return RecordForm::sizeHint().expandedTo(
+        {kWindowCharacters * fontMetrics().averageCharWidth(), 0});
 }
 
 QString frmCustomer::emailAddress() const
@@ -139,6 +150,12 @@ QString frmCustomer::firstProblem()
 }
 
 bool frmCustomer::extraCheck()
+{
+    return CheckForDuplicateCustomerNumber();
+}
+
+// Numbers need not be unique: the user decides.
+bool frmCustomer::CheckForDuplicateCustomerNumber()
 {
     const QString number = clsSystem::Trim(m_ui->txtCustNo->text());
     if (number.isEmpty())

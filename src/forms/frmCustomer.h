@@ -24,6 +24,8 @@ public:
     // Company, else "Last, First", else "New ".
     QString MakeCustomerName() const;
 
+    QSize sizeHint() const override;
+
 protected:
     QString description() const override { return MakeCustomerName(); }
     QString emailAddress() const override;
@@ -35,6 +37,7 @@ protected:
 private:
     void bindFields();
     void tellLengths();
+    bool CheckForDuplicateCustomerNumber(); // false: do not save
     void SetCustomerNumber();
     void showMailingLabel();
     QString contactLines() const;

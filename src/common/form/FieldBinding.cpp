@@ -90,6 +90,7 @@ FieldBinding trimmedText(const QString &field, QLineEdit *box, int length)
 FieldBinding comboText(const QString &field, QComboBox *combo, int length, int listType)
 {
     combo->setCompleter(nullptr); // it would change the case of what was typed
+    combo->setCurrentIndex(-1);   // nothing is chosen until somebody chooses
     if (length > 0)
         combo->lineEdit()->setMaxLength(length);
     FieldBinding made{field,

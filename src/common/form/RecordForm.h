@@ -123,7 +123,6 @@ private:
     void cancel();
     void deleteRecord();
     bool handleKey(const QKeyEvent *event);
-    bool pressDefault();
 
     const RecordSpec m_spec;
     Controls m_controls{};

@@ -11,7 +11,6 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QTextEdit>
 
 void RecordForm::bindField(FieldBinding binding)
 {
@@ -172,7 +171,7 @@ bool RecordForm::handleKey(const QKeyEvent *event)
             DoEditModeBtn();
         return true;
     }
-    if ((event->modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier)
+    if (event->modifiers() != Qt::NoModifier)
         return false;
     switch (event->key()) {
     case Qt::Key_F1:
@@ -181,30 +180,7 @@ bool RecordForm::handleKey(const QKeyEvent *event)
     case Qt::Key_F5:
         m_controls.cmdRefresh->click(); // does nothing while it is disabled
         return true;
-    case Qt::Key_Escape:
-        m_controls.CancelButton->click();
-        return true;
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        return pressDefault();
     default:
         return false;
     }
-}
-
-// Enter presses the button that has the focus, else OK; where it has a meaning of its own, in
-// texts of many lines and in lists, it is left alone.
-bool RecordForm::pressDefault()
-{
-    QWidget *focus = QApplication::focusWidget();
-    if (auto *button = qobject_cast<QAbstractButton *>(focus)) {
-        button->click();
-        return true;
-    }
-    if (qobject_cast<QPlainTextEdit *>(focus) != nullptr ||
-        qobject_cast<QTextEdit *>(focus) != nullptr ||
-        qobject_cast<QAbstractItemView *>(focus) != nullptr)
-        return false;
-    m_controls.OKButton->click();
-    return true;
 }

@@ -2,13 +2,24 @@
 
 #include "common/base/clsSystem.h"
 #include "common/base/Failure.h"
+#include "common/ui/Controls.h"
 #include "db/clsDB.h"
 #include "ui_StatisticCtl.h"
+
+#include <QEvent>
+
+namespace
+{
+
+const QString AlwaysLocked = QStringLiteral("readonly");
+
+} // namespace
 
 StatisticCtl::StatisticCtl(QWidget *parent)
     : QWidget(parent), m_ui(std::make_unique<Ui::StatisticCtl>())
 {
     m_ui->setupUi(this);
+    LockControls(this, true, AlwaysLocked);
     Clear();
 }
 
@@ -37,6 +48,14 @@ void StatisticCtl::SetValue(const QString &by, const QString &on, const QString 
 void StatisticCtl::Clear()
 {
     SetValue({}, {}, {});
+}
+
+// The read-only colour is worked out from the palette, so it follows a change of it.
+void StatisticCtl::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        LockControls(this, true, AlwaysLocked);
 }
 
 QString StatisticCtl::ModifiedBy() const

@@ -25,6 +25,9 @@ public:
     QString ModifiedOn() const;
     QString ModifiedAt() const;
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
     std::unique_ptr<Ui::StatisticCtl> m_ui;
 };
