@@ -17,7 +17,7 @@ CsvReader::CsvReader(const QString &path) : m_file(clsSystem::LocalPath(path)) {
 
 bool CsvReader::open()
 {
-    if (!m_file.open(QIODevice::ReadOnly))
+    if (m_file.fileName().isEmpty() || !m_file.open(QIODevice::ReadOnly))
         return false;
     static const QByteArray mark("\xEF\xBB\xBF");
     fill();
