@@ -21,7 +21,10 @@ public:
 
 void say(const Message &message)
 {
-    const QByteArray line = message.text.toLocal8Bit();
+    // A lone CR would send a terminal back over what it has just written.
+    QString text = message.text;
+    text.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(u'\r', u'\n');
+    const QByteArray line = text.toLocal8Bit();
     std::fprintf(stderr, "%s\n", line.constData());
     std::fflush(stderr);
 }
