@@ -66,6 +66,7 @@ public:
     RowLock(const RowLock &) = delete;
     RowLock &operator=(const RowLock &) = delete;
 
+    explicit operator bool() const { return m_code == norvane::engine::r4success; }
     bool heldElsewhere() const { return m_code == norvane::engine::d4locked; }
 
 private:

@@ -14,6 +14,7 @@ namespace
 
 constexpr qint32 FirstID = 1000;
 constexpr qint32 Locked = -1;
+constexpr qint32 Failed = 0;
 const QString CounterName = QStringLiteral("tblname");
 const QString ParamName = QStringLiteral("sid");
 
@@ -22,14 +23,14 @@ const QString ParamName = QStringLiteral("sid");
 qint32 takeNext(TableUse &rows)
 {
     const RowLock lock(rows.handle());
-    if (lock.heldElsewhere())
-        return Locked;
+    if (!lock)
+        return lock.heldElsewhere() ? Locked : Failed;
     const Handle counter = rows.field(QStringLiteral("lastid"));
     const qint32 taken = f4long(counter);
     qint32 next = taken;
     clsSystem::IncL(next);
     f4assignLong(counter, next);
-    return storeChange(rows.handle()) ? taken : 0;
+    return storeChange(rows.handle()) ? taken : Failed;
 }
 
 // Starts a counter. The append lock is taken before looking again, so that of two stations that
@@ -38,14 +39,14 @@ qint32 startCounter(TableUse &rows, const QString &name)
 {
     {
         const RowLock appending(rows.handle(), 0);
-        if (appending.heldElsewhere())
-            return Locked;
+        if (!appending)
+            return appending.heldElsewhere() ? Locked : Failed;
         if (!rows.seekText(name, CounterName)) {
             d4appendStartVB(rows.handle(), 0);
             d4blank(rows.handle());
             f4assignLong(rows.field(QStringLiteral("lastid")), FirstID + 1);
             AssignText(rows.field(CounterName), name);
-            return storeNewRow(rows.handle()) ? FirstID : 0;
+            return storeNewRow(rows.handle()) ? FirstID : Failed;
         }
     }
     return takeNext(rows);
@@ -102,10 +103,12 @@ bool clsDB::SetParamValue(const QString &name, const QString &value)
                 return storeNewRow(rows.handle());
             }
             const RowLock lock(rows.handle());
-            if (!lock.heldElsewhere()) {
+            if (lock) {
                 AssignValue(valueField, value, schema::FieldKind::Memo);
                 return storeChange(rows.handle());
             }
+            if (!lock.heldElsewhere())
+                return false;
         }
         prompts::critical(QStringLiteral("RECORD LOCKED: Unable to update record!"));
         return false;

@@ -69,7 +69,7 @@ bool clsDB::updateRow(const RecColl &record, Handle table, bool NoMsg)
         locked = lock.heldElsewhere();
         // Another station may have deleted the row while this one waited for the lock.
         found = locked || !d4deleted(table);
-        if (found && !locked) {
+        if (found && lock) {
             UpdateFields(fieldWrites(record, table, false));
             stored = storeChange(table);
         }
@@ -121,16 +121,15 @@ std::vector<clsDB::Write> clsDB::fieldWrites(const RecColl &record, Handle table
         writes.push_back({fieldOf(table, field.name), field.kind,
                           isNumber ? record.value(key) : QVariant(record.text(key))});
     }
-    const Handle password = fieldOf(table, "password");
     if (code == u"_userinfo" && adding) {
-        writes.push_back(
-            {password, FieldKind::Text, passwordCode(record.text(QStringLiteral("login")))});
+        writes.push_back({fieldOf(table, "password"), FieldKind::Text,
+                          passwordCode(record.text(QStringLiteral("login")))});
     } else if (code == u"_setpwd") {
         // An empty password goes back to the login name.
-        const QString given = record.text(QStringLiteral("password"));
-        const QString login = clsSystem::Trim(FieldText(fieldOf(table, "login")));
-        writes.push_back(
-            {password, FieldKind::Text, passwordCode(given.isEmpty() ? login : given)});
+        QString plain = record.text(QStringLiteral("password"));
+        if (plain.isEmpty())
+            plain = clsSystem::Trim(FieldText(fieldOf(table, "login")));
+        writes.push_back({fieldOf(table, "password"), FieldKind::Text, passwordCode(plain)});
     } else if (code == u"_lockinfo") {
         addLockInfo(writes, record, table);
     }

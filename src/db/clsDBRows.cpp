@@ -25,8 +25,8 @@ Deletion deleteRow(TableUse &rows, qint32 key)
     if (!rows.seek(key))
         return Deletion::NoRow;
     const RowLock lock(rows.handle());
-    if (lock.heldElsewhere())
-        return Deletion::HeldElsewhere;
+    if (!lock)
+        return lock.heldElsewhere() ? Deletion::HeldElsewhere : Deletion::Failed;
     // Gone by now: another station was faster.
     if (d4deleted(rows.handle()))
         return Deletion::Done;

@@ -1,0 +1,151 @@
+// Files that are missing, damaged, read-only or gone: told once in plain words, never worse.
+#include "DbTest.h"
+
+#include "db/engine/File.h"
+
+#include <QDir>
+#include <QFile>
+
+using namespace norvane::engine;
+using schema::Table;
+
+namespace
+{
+
+class Damage : public DbTest
+{
+protected:
+    void overwrite(const QString &name, const QByteArray &bytes)
+    {
+        QFile file(db.file(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
+    void cut(const QString &name, qint64 size) { ASSERT_TRUE(QFile::resize(db.file(name), size)); }
+    // What was said while something was tried that may fail in more than one place.
+    QStringList told(const std::function<void()> &attempt)
+    {
+        QStringList texts;
+        const auto before =
+            std::exchange(prompts::backend().message, [&](const prompts::Message &message) {
+                texts.append(message.text);
+                return message.preset;
+            });
+        attempt();
+        prompts::backend().message = before;
+        return texts;
+    }
+
+    qint32 id = db.addCustomer({{"company", u"Acme"_s}, {"notes", u"note"_s}});
+};
+
+// The system's files, but none of them can be written.
+class ReadOnlyFiles : public FileSystem
+{
+public:
+    Result<std::unique_ptr<File>> open(const std::string &path, OpenMode mode) override
+    {
+        if (mode != OpenMode::ReadOnly)
+            return Error{ErrorKind::ReadOnly, path, "refused"};
+        return systemFiles().open(path, mode);
+    }
+    Result<std::string> findIgnoringCase(const std::string &path) override
+    {
+        return systemFiles().findIgnoringCase(path);
+    }
+    Status rename(const std::string &from, const std::string &) override
+    {
+        return Error{ErrorKind::ReadOnly, from, "refused"};
+    }
+    Status remove(const std::string &path) override
+    {
+        return Error{ErrorKind::ReadOnly, path, "refused"};
+    }
+};
+
+} // namespace
+
+TEST_F(Damage, ATableThatMakesNoSenseNamesItselfAndOpensNothing)
+{
+    overwrite(u"nvncust.dbf"_s, QByteArray(5000, 'x'));
+    RecColl row = record(u"_customer"_s, id);
+    const QStringList texts = told([&] { EXPECT_FALSE(gDB.ReadRecord(row)); });
+    ASSERT_EQ(2, texts.size()) << qPrintable(texts.join(u'\n'));
+    EXPECT_TRUE(texts[0].contains(u"nvncust.dbf")) << qPrintable(texts[0]);
+    EXPECT_EQ(u"Unable to open: "_s + gDB.CustomerTable(), texts[1]);
+    // Other tables go on working.
+    EXPECT_EQ(1, gDB.GetRecCount(gDB.UserTable(), u"login"_s));
+}
+
+TEST_F(Damage, EveryKindOfTruncatedFileIsRefusedOrReadWithoutHarm)
+{
+    for (const char *name : {"nvncust.dbf", "nvncust.cdx", "nvncust.fpt"}) {
+        QFile file(db.file(QString::fromLatin1(name)));
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        const QByteArray whole = file.readAll();
+        for (const qint64 size : {0, 1, 31, 33, 511, 700, 1100}) {
+            if (size >= whole.size())
+                continue;
+            cut(QString::fromLatin1(name), size);
+            told([&] {
+                RecColl row = record(u"_customer"_s, id);
+                gDB.ReadRecord(row);
+                RecColl fresh = gDB.NewCustomerRecColl();
+                gDB.SaveRecord(fresh);
+                gDB.DeleteRecord(id, gDB.CustomerTable());
+                gDB.GetRecCount(gDB.CustomerTable(), u"company"_s);
+            });
+            overwrite(QString::fromLatin1(name), whole);
+        }
+    }
+    SUCCEED();
+}
+
+TEST_F(Damage, AReadOnlyFolderIsReadAndRefusesEverySave)
+{
+    ReadOnlyFiles files;
+    clsDB reader;
+    reader.useFiles(&files);
+    ASSERT_TRUE(reader.OpenUnattended(db.path(), u"SYSOP"_s, u"sysop"_s));
+    RecColl row = record(u"_customer"_s, id);
+    ASSERT_TRUE(reader.ReadRecord(row));
+    EXPECT_EQ(u"Acme"_s, row.text(u"company"_s));
+
+    person.expect(u"is read-only for you"_s).kind(prompts::Kind::Critical);
+    EXPECT_FALSE(reader.SaveRecord(row));
+    person.expect(u"is read-only for you"_s);
+    EXPECT_FALSE(reader.DeleteRecord(id, reader.CustomerTable()));
+    person.expect(u"is read-only for you"_s);
+    EXPECT_EQ(-1, reader.GetNextID(u"nvncust.dbf"_s));
+    person.expect(u"is read-only for you"_s);
+    EXPECT_FALSE(reader.SetParamValue(u"x"_s, u"y"_s));
+}
+
+TEST_F(Damage, AFolderThatVanishesAndComesBackNeedsNoRestart)
+{
+    const QString away = db.path() + u"-away";
+    ASSERT_TRUE(QDir().rename(db.path(), away));
+    RecColl row = record(u"_customer"_s, id);
+    person.expect(u"Unable to open: "_s + gDB.CustomerTable());
+    EXPECT_FALSE(gDB.ReadRecord(row));
+    RecColl fresh = gDB.NewCustomerRecColl();
+    person.expect(u"Unable to open: "_s + gDB.CustomerTable());
+    EXPECT_FALSE(gDB.SaveRecord(fresh));
+
+    ASSERT_TRUE(QDir().rename(away, db.path()));
+    EXPECT_TRUE(gDB.ReadRecord(row));
+    EXPECT_TRUE(gDB.SaveRecord(fresh));
+}
+
+TEST_F(Damage, AFailureSaysWhatIsWrongAndWhatToDo)
+{
+    const auto words = [](ErrorKind kind, const char *file) {
+        return engineFailureText({kind, file, "detail", 512});
+    };
+    const QString index = words(ErrorKind::Damaged, "/data/nvncust.cdx");
+    EXPECT_TRUE(index.contains(u"'/data/nvncust.cdx' is damaged (at 512)"));
+    EXPECT_TRUE(index.contains(u"re-index"));
+    EXPECT_TRUE(words(ErrorKind::Damaged, "/data/nvncust.dbf").contains(u"backup"));
+    EXPECT_TRUE(words(ErrorKind::NoSpace, "f").contains(u"full"));
+    EXPECT_TRUE(words(ErrorKind::Gone, "f").contains(u"up and running"));
+}

@@ -1,0 +1,84 @@
+// Identifiers and named parameters, and the labels made of them.
+#include "DbTest.h"
+
+#include "db/clsCustomLabels.h"
+#include "db/TableUse.h"
+
+#include <limits>
+
+namespace
+{
+
+class Ids : public DbTest
+{
+protected:
+    static void setCounter(const QString &name, qint32 value)
+    {
+        TableUse rows(gDB, gDB.LastIDTable());
+        ASSERT_TRUE(rows.seekText(name, u"tblname"_s));
+        const RowLock lock(rows.handle());
+        norvane::engine::f4assignLong(rows.field(u"lastid"_s), value);
+        norvane::engine::d4flush(rows.handle());
+    }
+};
+
+} // namespace
+
+TEST_F(Ids, CountersStartAt1000EachForItself)
+{
+    EXPECT_EQ(1000, gDB.GetNextID(u"nvncust.dbf"_s));
+    EXPECT_EQ(1001, gDB.GetNextID(u"nvncust.dbf"_s));
+    EXPECT_EQ(1000, gDB.GetNextID(u"nvncust"_s)) << "a beginning of another counter's name";
+    EXPECT_EQ(1000, gDB.GetNextID(u"nvncust_ps.dbf"_s));
+    EXPECT_EQ(1002, gDB.GetNextID(u"NVNCUST.DBF"_s));
+    TableUse rows(gDB, gDB.LastIDTable());
+    ASSERT_TRUE(rows.seekText(u"nvncust.dbf"_s, u"tblname"_s));
+    EXPECT_EQ(1003, rows.number(u"lastid"_s));
+}
+
+TEST_F(Ids, ACounterAtItsEndIsAnError)
+{
+    gDB.GetNextID(u"x.dbf"_s);
+    setCounter(u"x.dbf"_s, std::numeric_limits<qint32>::max());
+    person.expect(u"\rclsDB_GetNextID"_s).title(u"Error"_s);
+    EXPECT_EQ(-1, gDB.GetNextID(u"x.dbf"_s));
+    // No lock and no change is left behind.
+    auto other = db.otherStation();
+    person.expect(u"\rclsDB_GetNextID"_s).title(u"Error"_s);
+    EXPECT_EQ(-1, other->GetNextID(u"x.dbf"_s));
+}
+
+TEST_F(Ids, ParametersIgnoreCaseAndKeepOneRow)
+{
+    EXPECT_EQ(QString(), gDB.GetParamValue(u"ENABLE_ISSUE_TEMPLATES"_s));
+    EXPECT_TRUE(gDB.SetParamValue(u"Enable_Issue_Templates"_s, u"1"_s));
+    EXPECT_TRUE(gDB.SetParamValue(u"ENABLE_ISSUE_TEMPLATES"_s, u" two \u20ac "_s));
+    EXPECT_EQ(u"two \u20ac"_s, gDB.GetParamValue(u"enable_issue_templates"_s));
+    EXPECT_EQ(1, gDB.GetRecCountFast(gDB.ParamTable(), u"sid"_s));
+    EXPECT_TRUE(gDB.SetParamValue(u"ENABLE_ISSUE_TEMPLATES"_s, {}));
+    EXPECT_EQ(QString(), gDB.GetParamValue(u"ENABLE_ISSUE_TEMPLATES"_s));
+}
+
+TEST_F(Ids, AParameterIsNotTakenForOneWhoseNameBeginsAlike)
+{
+    const QString shorter = clsDB::MakeCustomFieldParamName(u"nvncust.dbf"_s, u"emailname"_s);
+    ASSERT_TRUE(gDB.SetParamValue(shorter + u'2', u"Other address"_s));
+    EXPECT_EQ(QString(), gDB.GetParamValue(shorter));
+    ASSERT_TRUE(gDB.SetParamValue(shorter, u"Address"_s));
+    EXPECT_EQ(u"Other address"_s, gDB.GetParamValue(shorter + u'2'));
+}
+
+TEST_F(Ids, LabelsAreTheUsersElseTheirOwnWithOneColon)
+{
+    EXPECT_EQ(u"Tracking Number:"_s, CustomLabels.GetPSLabelName(u"trackno"_s, true));
+    EXPECT_EQ(u"Category:"_s, CustomLabels.GetIssueLabelName(u"issuecat"_s, true));
+    EXPECT_EQ(u"Category"_s, CustomLabels.GetCustomerLabelName(u"custcat"_s));
+    EXPECT_EQ(QString(), CustomLabels.GetCustomerLabelName(u"notes"_s, true));
+    EXPECT_EQ(QString(), CustomLabels.GetCurrentLabelName(u"nvnrep.dbf"_s, u"title"_s));
+
+    gDB.SetParamValue(u"nvncust.dbf_custom1"_s, u"Region:"_s);
+    EXPECT_EQ(u"Region:"_s, CustomLabels.GetCustomerLabelName(u"custom1"_s, true));
+    EXPECT_EQ(u"Custom 1"_s, CustomLabels.GetIssueLabelName(u"custom1"_s));
+    gDB.SetParamValue(u"nvncust.dbf_custom1"_s, {});
+    EXPECT_EQ(u"Custom 1:"_s, CustomLabels.GetCustomerLabelName(u"custom1"_s, true));
+}
