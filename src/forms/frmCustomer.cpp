@@ -17,7 +17,7 @@ namespace
 constexpr int kHelpTopic = 1300;
 constexpr int kNotesPage = 1;
 constexpr int kColumnCharacters = 96; // a label and a field of 80
-constexpr int kWindowCharacters = 128;
+constexpr int kWindowCharacters = 148;
 
 // Lookup lists that this form shows, by type code.
 constexpr int kCustomerCategories = 1;

@@ -295,7 +295,7 @@ TEST_F(CustomerForm, TheFrameInTheMainWindowObeysTheSameQuestion)
     area.show();
     form = std::make_unique<frmCustomer>();
     form->Init(id, false);
-    const QPointer<QMdiSubWindow> frame = area.addSubWindow(form.get());
+    QMdiSubWindow *frame = area.addSubWindow(form.get());
     frame->setAttribute(Qt::WA_DeleteOnClose, false);
     frame->show();
     EXPECT_EQ(frame->windowTitle(), "Customer: Acme @3:05:09 PM");
