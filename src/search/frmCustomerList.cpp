@@ -9,6 +9,7 @@
 #include "ui_frmCustomerList.h"
 
 #include <QCloseEvent>
+#include <QHeaderView>
 #include <QScopedValueRollback>
 #include <QShortcut>
 
@@ -64,6 +65,15 @@ void frmCustomerList::reload()
 {
     LoadData();
     SetUI();
+}
+
+QSize frmCustomerList::sizeHint() const
+{
+    const QMargins margins = layout()->contentsMargins();
+    const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    return {ui->lvCustomers->header()->length() + scrollBar + margins.left() + margins.right() +
+                2 * ui->lvCustomers->frameWidth(),
+            FormWindow::sizeHint().height() + 12 * fontMetrics().height()};
 }
 
 // Pending window events run during a load; a second one must not begin inside the first.

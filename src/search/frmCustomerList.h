@@ -26,6 +26,8 @@ public:
     void Init(const QString &sSearchStr, qint32 SearchType);
     void LoadData();
     void SetUI();
+    // Room for all columns and a page of hits.
+    QSize sizeHint() const override;
 
 protected:
     void closeEvent(QCloseEvent *event) override;

@@ -2,11 +2,11 @@
 #include "search/frmCustomerList.h"
 
 #include "common/base/AppInfo.h"
-#include "common/base/Host.h"
 #include "common/base/clsSystem.h"
-#include "db/FieldText.h"
+#include "common/base/Host.h"
 #include "db/clsCustomLabels.h"
 #include "db/clsDB.h"
+#include "db/FieldText.h"
 #include "search/CustomerMatcher.h"
 #include "search/frmLookupCustomer.h"
 #include "ui_frmCustomerList.h"
@@ -106,8 +106,8 @@ void frmCustomerList::LoadCustomersWithTag(Handle table, const QString &sTag)
     }
     loading.flush();
     const QString label = CustomLabels.GetCustomerLabelName(sTag, false);
-    setWindowTitle(tr("Customers (") + label + u"='" + m_sSearchStr + u"') @"
-                   + gSys.CurrTimeAMPM());
+    setWindowTitle(tr("Customers (") + label + u"='" + m_sSearchStr + u"') @" +
+                   gSys.CurrTimeAMPM());
 }
 
 void frmCustomerList::LoadAllCustomers(Handle table, qint32 SearchType)
@@ -115,11 +115,10 @@ void frmCustomerList::LoadAllCustomers(Handle table, qint32 SearchType)
     Loading loading(ui->lvCustomers, tr("Listing Customers. Please wait..."));
     d4tagSelect(table, d4tag(table, "lastname"));
     const ListFields fields = listFields(table);
-    const AddressFields stringFlds{
-        d4field(table, "address1"),  d4field(table, "address2"),
-        d4field(table, "city"),      d4field(table, "postalcode"),
-        d4field(table, "workphone"), d4field(table, "homephone"),
-        d4field(table, "mobilphone"), d4field(table, "faxphone")};
+    const AddressFields stringFlds{d4field(table, "address1"),   d4field(table, "address2"),
+                                   d4field(table, "city"),       d4field(table, "postalcode"),
+                                   d4field(table, "workphone"),  d4field(table, "homephone"),
+                                   d4field(table, "mobilphone"), d4field(table, "faxphone")};
     const CustomerMatcher matcher(m_sSearchStr);
     for (Code moved = d4top(table); moved == r4success; moved = d4skip(table, 1)) {
         if (SearchType != SearchAddress || CustomerMeetsCriteria(matcher, stringFlds))
@@ -163,6 +162,6 @@ ListView::Row frmCustomerList::AddLvItem(const ListFields &fields) const
 {
     return {u'N' + QString::number(f4long(fields.rowid)),
             {gSys.MakeFullName(trimmedText(fields.firstname), trimmedText(fields.lastname)),
-             trimmedText(fields.company), trimmedText(fields.custno),
-             trimmedText(fields.workphone), trimmedText(fields.city)}};
+             trimmedText(fields.company), trimmedText(fields.custno), trimmedText(fields.workphone),
+             trimmedText(fields.city)}};
 }

@@ -35,6 +35,7 @@ void ChildWindow::openAtItsSize()
     if (wanted.width() < 1 || wanted.height() < 1)
         wanted = sizeHint().expandedTo(size());
     resize(wanted.boundedTo(room));
+    noteSizeGiven();
     // The area puts windows beside each other where there is room, and may reach beyond its edge.
     const QPoint lowest(qMax(0, room.width() - width()), qMax(0, room.height() - height()));
     move(qBound(0, x(), lowest.x()), qBound(0, y(), lowest.y()));
@@ -42,7 +43,7 @@ void ChildWindow::openAtItsSize()
 
 void ChildWindow::rememberSize() const
 {
-    if (!isMaximized() && !isMinimized() && !isShaded())
+    if (!isMaximized() && !isMinimized() && !isShaded() && size() != m_sizeGiven)
         SetPrefStr(sizeName(), QString::number(width()) + u'x' + QString::number(height()));
 }
 

@@ -12,6 +12,8 @@ public:
 
     // Call once the frame is in its area and shown.
     void openAtItsSize();
+    // The size it has now was not chosen by a person, and is not to be remembered.
+    void noteSizeGiven() { m_sizeGiven = size(); }
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -19,4 +21,6 @@ protected:
 private:
     void rememberSize() const;
     QString sizeName() const;
+
+    QSize m_sizeGiven;
 };

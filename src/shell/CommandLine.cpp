@@ -37,6 +37,14 @@ bool isOption(const QString &argument)
     return argument.startsWith(QLatin1String("--"));
 }
 
+// The toolkit says of each thing that it cannot do without a display; that is no news.
+void passOverLimits(QtMsgType, const QMessageLogContext &, const QString &text)
+{
+    if (!text.startsWith(QLatin1String("This plugin does not support")) &&
+        !text.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR")))
+        QTextStream(stderr) << text << '\n';
+}
+
 CommandLine readTour(const QStringList &arguments)
 {
     CommandLine command;
@@ -89,10 +97,10 @@ int answerWithoutDisplay(const CommandLine &command)
 bool findDisplay(const CommandLine &command, const QStringList &arguments)
 {
 #if defined(Q_OS_UNIX) && !defined(Q_OS_MACOS)
-    const bool named = qEnvironmentVariableIsSet("QT_QPA_PLATFORM")
-                       || arguments.contains(QLatin1String("-platform"));
-    if (named || !qEnvironmentVariableIsEmpty("DISPLAY")
-        || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
+    const bool named = qEnvironmentVariableIsSet("QT_QPA_PLATFORM") ||
+                       arguments.contains(QLatin1String("-platform"));
+    if (named || !qEnvironmentVariableIsEmpty("DISPLAY") ||
+        !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
         return true;
     if (!command.tour) {
         QTextStream(stderr) << "norvane: there is no display. \"norvane --tour PICTURES\" shows "
@@ -100,6 +108,7 @@ bool findDisplay(const CommandLine &command, const QStringList &arguments)
         return false;
     }
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    qInstallMessageHandler(passOverLimits);
 #else
     Q_UNUSED(command)
     Q_UNUSED(arguments)
@@ -109,6 +118,6 @@ bool findDisplay(const CommandLine &command, const QStringList &arguments)
 
 QString versionText()
 {
-    return QString::number(app::versionMajor()) + u'.' + QString::number(app::versionMinor())
-           + u'.' + QString::number(app::versionRevision());
+    return QString::number(app::versionMajor()) + u'.' + QString::number(app::versionMinor()) +
+           u'.' + QString::number(app::versionRevision());
 }

@@ -16,23 +16,51 @@ QList<QMdiSubWindow *> windowsOf(const QMdiArea *area, bool minimised)
     return windows;
 }
 
+// Equal parts of the room, but for windows that need more than their part.
+QList<int> shares(int room, const QList<int> &needs)
+{
+    QList<int> result(needs.size(), 0);
+    int left = room;
+    int open = static_cast<int>(needs.size());
+    for (bool changed = true; changed && open > 0;) {
+        changed = false;
+        for (int at = 0; at < needs.size() && open > 0; ++at) {
+            if (result[at] > 0 || needs[at] <= left / open)
+                continue;
+            result[at] = needs[at];
+            left -= needs[at];
+            --open;
+            changed = true;
+        }
+    }
+    for (int &share : result) {
+        if (share > 0)
+            continue;
+        share = left / open--;
+        left -= share;
+    }
+    return result;
+}
+
 } // namespace
 
 void tileWindows(QMdiArea *area, Tiling tiling)
 {
-    const QList<QMdiSubWindow *> windows = windowsOf(area, false);
-    const int count = static_cast<int>(windows.size());
+    const bool rows = tiling == Tiling::Horizontally;
     const QSize room = area->viewport()->size();
-    for (int at = 0; at < count; ++at) {
+    const QList<QMdiSubWindow *> windows = windowsOf(area, false);
+    QList<int> needs;
+    for (const QMdiSubWindow *window : windows)
+        needs += rows ? window->minimumSizeHint().height() : window->minimumSizeHint().width();
+    const QList<int> parts = shares(rows ? room.height() : room.width(), needs);
+    int start = 0;
+    for (int at = 0; at < windows.size(); ++at) {
         windows[at]->showNormal();
-        if (tiling == Tiling::Horizontally) {
-            const int top = room.height() * at / count;
-            windows[at]->setGeometry(0, top, room.width(), room.height() * (at + 1) / count - top);
-        } else {
-            const int left = room.width() * at / count;
-            windows[at]->setGeometry(left, 0, room.width() * (at + 1) / count - left,
-                                     room.height());
-        }
+        if (rows)
+            windows[at]->setGeometry(0, start, room.width(), parts[at]);
+        else
+            windows[at]->setGeometry(start, 0, parts[at], room.height());
+        start += parts[at];
     }
 }
 

@@ -8,7 +8,7 @@ enum class Tiling {
     Vertically    // side by side
 };
 
-// Minimised windows stay where they are.
+// Minimised windows stay where they are. No window gets smaller than its contents allow.
 void tileWindows(QMdiArea *area, Tiling tiling);
 // Lines up the minimised windows from the bottom left.
 void arrangeIcons(QMdiArea *area);

@@ -27,7 +27,8 @@ QString addressOfFirst()
 } // namespace
 
 SingleInstance::SingleInstance(QObject *parent)
-    : QObject(parent), m_address(addressOfFirst()),
+    : QObject(parent),
+      m_address(addressOfFirst()),
       m_lock(QDir(runtimeFolder()).filePath(QStringLiteral("norvane.lock")))
 {
     m_lock.setStaleLockTime(0); // held for as long as the program runs

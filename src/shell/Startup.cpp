@@ -1,9 +1,9 @@
 #include "shell/Startup.h"
 
 #include "common/base/AppInfo.h"
+#include "common/base/clsSystem.h"
 #include "common/base/Failure.h"
 #include "common/base/Prompts.h"
-#include "common/base/clsSystem.h"
 #include "common/ui/GuiDialogs.h"
 #include "db/clsDB.h"
 
@@ -18,6 +18,12 @@ QString Startup::folderFromCommandLine(const QStringList &arguments)
 Startup::Startup(QString folder) : m_folder(std::move(folder))
 {
     connect(&m_instance, &SingleInstance::raiseWanted, this, &Startup::raiseMain);
+}
+
+Startup::~Startup()
+{
+    m_main.reset();
+    gDB.CloseDB();
 }
 
 bool Startup::run()
@@ -61,8 +67,7 @@ bool Startup::mayRun(SingleInstance &instance, const QString &folder)
 void Startup::showSplash()
 {
     m_splash = std::make_unique<frmSplash>();
-    m_splash->setWindowFlags(Qt::SplashScreen | Qt::FramelessWindowHint
-                             | Qt::WindowStaysOnTopHint);
+    m_splash->setWindowFlags(Qt::SplashScreen | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
     m_splash->setSmartUnload(true);
     m_splash->show();
     m_splash->repaint();

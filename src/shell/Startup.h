@@ -1,9 +1,9 @@
 // The steps from the command line to the main window with its database.
 #pragma once
 
-#include "shell/SingleInstance.h"
 #include "shell/frmMain.h"
 #include "shell/frmSplash.h"
+#include "shell/SingleInstance.h"
 
 #include <QString>
 #include <QStringList>
@@ -24,6 +24,8 @@ public:
     static bool mayRun(SingleInstance &instance, const QString &folder);
 
     explicit Startup(QString folder);
+    // Closes the database if the main window did not.
+    ~Startup() override;
 
     // False when the program must end: another instance is running and has been raised.
     bool run();

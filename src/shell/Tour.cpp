@@ -1,9 +1,9 @@
 // Running the tour: its surroundings, its steps one by one, and the hands that press buttons.
 #include "shell/Tour.h"
 
+#include "common/base/clsSystem.h"
 #include "common/base/Host.h"
 #include "common/base/Preferences.h"
-#include "common/base/clsSystem.h"
 
 #include <QAction>
 #include <QApplication>
@@ -50,14 +50,16 @@ int Tour::run()
     return result;
 }
 
-// Nothing of the person's own is touched: preferences, the place where instances meet and the
-// database are the tour's. Dialogs are drawn by the program so that the pictures show them.
+// Nothing of the person's own is touched: home folder, preferences, the place where instances
+// meet and the database are the tour's. Dialogs are drawn by the program so that the pictures show
+// them.
 void Tour::prepare()
 {
     need(m_temporary.isValid(), QStringLiteral("there is no place for temporary files"));
     need(QDir().mkpath(m_pictures), QStringLiteral("the folder for the pictures cannot be made"));
     need(QDir().mkpath(m_folder), QStringLiteral("the folder for the database cannot be made"));
     usePreferencesFile(m_temporary.filePath(QStringLiteral("preferences.ini")));
+    qputenv("HOME", QFile::encodeName(m_temporary.path()));
     qputenv("XDG_RUNTIME_DIR", QFile::encodeName(m_temporary.path()));
     qputenv("NORVANE_PASSWORD", "sysop");
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
@@ -115,7 +117,7 @@ QString Tour::secondStation(const QStringList &arguments)
         QDir(QApplication::applicationDirPath()).filePath(QStringLiteral("norvanectl"));
     const ProgramResult result = host().run(program, arguments, 60000);
     need(result.ended && result.exitCode == 0,
-         QLatin1String("the second workstation (norvanectl) failed: ")
-             + QString::fromLocal8Bit(result.errors));
+         QLatin1String("the second workstation (norvanectl) failed: ") +
+             QString::fromLocal8Bit(result.errors));
     return QString::fromUtf8(result.output);
 }

@@ -25,8 +25,8 @@ void drawFrame(QPainter &painter, const QRect &content, const QWidget *dialog)
 
 bool hasFrame(const QWidget *window)
 {
-    return !window->windowFlags().testFlag(Qt::FramelessWindowHint)
-           && window->windowType() != Qt::Popup;
+    return !window->windowFlags().testFlag(Qt::FramelessWindowHint) &&
+           window->windowType() != Qt::Popup;
 }
 
 void drawWindow(QPainter &painter, const QRect &screen, QWidget *window)

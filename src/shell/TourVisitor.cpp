@@ -2,12 +2,22 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QLabel>
 #include <QTimer>
 
 namespace
 {
 
 constexpr int glance = 60; // milliseconds; a window is laid out and painted in between
+
+QString wordsOn(const QWidget *window)
+{
+    QStringList words{window->windowTitle()};
+    for (const QLabel *label : window->findChildren<QLabel *>())
+        words += label->text();
+    words.removeAll(QString());
+    return words.join(QLatin1String(" / "));
+}
 
 } // namespace
 
@@ -46,7 +56,7 @@ void TourVisitor::meet(QWidget *window)
     m_met = window;
     const QString name = QString::fromLatin1(window->metaObject()->className());
     if (m_problem.isEmpty() && (m_turns.empty() || m_turns.front().className != name))
-        m_problem = name + QLatin1String(" came up unexpected: ") + window->windowTitle();
+        m_problem = name + QLatin1String(" came up unexpected: ") + wordsOn(window);
     if (m_problem.isEmpty()) {
         const Action action = std::move(m_turns.front().action);
         m_turns.pop_front();

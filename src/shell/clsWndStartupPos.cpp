@@ -13,8 +13,8 @@ enum WindowState : qint32 { Normal = 0, Maximised = 2 };
 
 bool onScreen(const QRect &place, const QSize &screen)
 {
-    return place.top() >= 0 && place.top() <= screen.height() && place.left() >= 0
-           && place.left() <= screen.width() && place.width() >= 1 && place.height() >= 1;
+    return place.top() >= 0 && place.top() <= screen.height() && place.left() >= 0 &&
+           place.left() <= screen.width() && place.width() >= 1 && place.height() >= 1;
 }
 
 } // namespace
@@ -35,8 +35,8 @@ void clsWndStartupPos::RestorePosition(QWidget *form)
     const QRect place(GetValueLong(QStringLiteral("left")), GetValueLong(QStringLiteral("top")),
                       GetValueLong(QStringLiteral("width")),
                       GetValueLong(QStringLiteral("height")));
-    if (GetValueLong(QStringLiteral("windowstate")) == Maximised
-        || !onScreen(place, form->screen()->virtualSize())) {
+    if (GetValueLong(QStringLiteral("windowstate")) == Maximised ||
+        !onScreen(place, form->screen()->virtualSize())) {
         form->setWindowState(Qt::WindowMaximized);
         return;
     }

@@ -1,7 +1,8 @@
 #include "shell/frmLogin.h"
 
-#include "common/base/Prompts.h"
 #include "common/base/clsSystem.h"
+#include "common/base/Prompts.h"
+#include "common/ui/Controls.h"
 #include "db/clsDB.h"
 #include "ui_frmLogin.h"
 
@@ -12,6 +13,9 @@ frmLogin::frmLogin(QWidget *parent) : QDialog(parent), ui(std::make_unique<Ui::f
     ui->setupUi(this);
     ui->buttonBox->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("OKButton"));
     ui->buttonBox->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("CancelButton"));
+    QPalette readOnly = ui->txtDir->palette();
+    readOnly.setColor(QPalette::Base, readOnlyColour(ui->txtDir));
+    ui->txtDir->setPalette(readOnly);
 }
 
 frmLogin::~frmLogin() = default;

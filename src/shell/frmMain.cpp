@@ -6,11 +6,11 @@
 #include "common/form/frmUnderEditMsg.h"
 #include "common/ui/FormWindow.h"
 #include "common/ui/Icons.h"
-#include "db/Screens.h"
 #include "db/clsDB.h"
-#include "shell/StatusPanel.h"
+#include "db/Screens.h"
 #include "shell/clsWndStartupPos.h"
 #include "shell/frmLogin.h"
+#include "shell/StatusPanel.h"
 #include "ui_frmMain.h"
 
 #include <QCloseEvent>
@@ -122,8 +122,8 @@ void frmMain::SetStatusBar()
 
 void frmMain::SetWindowCaption()
 {
-    setWindowTitle(app::title() + u" - v" + QString::number(app::versionMajor()) + u'.'
-                   + QString::number(app::versionMinor()));
+    setWindowTitle(app::title() + u" - v" + QString::number(app::versionMajor()) + u'.' +
+                   QString::number(app::versionMinor()));
 }
 
 // The database closes first, and with it every other window; when one of them refuses, the

@@ -64,6 +64,7 @@ private:
     void helpSupport();
     void helpAbout();
 
+    void noteSizesGiven();
     void fillWindowMenu();
     void listWindow(QMdiSubWindow *window, int number);
     void closeAllWindows();

@@ -2,10 +2,10 @@
 #include "shell/frmMain.h"
 
 #include "common/base/AppInfo.h"
+#include "common/base/clsSystem.h"
 #include "common/base/Host.h"
 #include "common/base/Numbers.h"
 #include "common/base/Prompts.h"
-#include "common/base/clsSystem.h"
 #include "common/ui/FormWindow.h"
 #include "db/clsDB.h"
 #include "forms/frmCustomer.h"
@@ -119,9 +119,9 @@ void frmMain::SendMail(const QString &to, const QString &subject, const QString 
 
 void frmMain::helpSupport()
 {
-    const QString question = tr("Support for %1 can be obtained online at").arg(app::title())
-                             + u'\n' + app::website() + QLatin1String("\n\n")
-                             + tr("Would you like to go to this website?");
+    const QString question = tr("Support for %1 can be obtained online at").arg(app::title()) +
+                             u'\n' + app::website() + QLatin1String("\n\n") +
+                             tr("Would you like to go to this website?");
     if (prompts::ask(question) == prompts::Answer::Yes)
         gSys.GotoDVWebsite();
 }

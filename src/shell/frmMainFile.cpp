@@ -2,9 +2,9 @@
 #include "shell/frmMain.h"
 
 #include "common/base/AppInfo.h"
+#include "common/base/clsSystem.h"
 #include "common/base/Failure.h"
 #include "common/base/Prompts.h"
-#include "common/base/clsSystem.h"
 #include "db/clsDB.h"
 #include "ui_frmMain.h"
 
@@ -61,8 +61,8 @@ void frmMain::createDatabase()
     if (gDB.NewDB(folder)) {
         gSys.ShowMsg(
             tr("NEW DATABASE CREATED! Initial Login and Password is SYSOP (Multi-user version "
-               "only)\n")
-            + paragraphs(
+               "only)\n") +
+            paragraphs(
                 {tr("New %1 database has been created in:").arg(app::title()), folder,
                  tr("If you are sharing this data with other users, please note this directory "
                     "location. Other users will need to specify this location when opening the "

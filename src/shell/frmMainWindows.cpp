@@ -8,12 +8,18 @@
 
 void frmMain::connectWindowMenu()
 {
-    connect(ui->mnuWindowTH, &QAction::triggered, this,
-            [this] { tileWindows(ui->mdiArea, Tiling::Horizontally); });
-    connect(ui->mnuWindowTV, &QAction::triggered, this,
-            [this] { tileWindows(ui->mdiArea, Tiling::Vertically); });
-    connect(ui->mnuWindowCascade, &QAction::triggered, ui->mdiArea,
-            &QMdiArea::cascadeSubWindows);
+    connect(ui->mnuWindowTH, &QAction::triggered, this, [this] {
+        tileWindows(ui->mdiArea, Tiling::Horizontally);
+        noteSizesGiven();
+    });
+    connect(ui->mnuWindowTV, &QAction::triggered, this, [this] {
+        tileWindows(ui->mdiArea, Tiling::Vertically);
+        noteSizesGiven();
+    });
+    connect(ui->mnuWindowCascade, &QAction::triggered, this, [this] {
+        ui->mdiArea->cascadeSubWindows();
+        noteSizesGiven();
+    });
     connect(ui->mnuWindowArrangeIcons, &QAction::triggered, this,
             [this] { arrangeIcons(ui->mdiArea); });
     connect(ui->mnuWindowCloseAll, &QAction::triggered, this, &frmMain::closeAllWindows);
@@ -28,6 +34,14 @@ void frmMain::showChild(QWidget *form)
     frame->show();
     frame->openAtItsSize();
     ui->mdiArea->setActiveSubWindow(frame);
+}
+
+void frmMain::noteSizesGiven()
+{
+    for (QMdiSubWindow *window : ui->mdiArea->subWindowList()) {
+        if (auto *child = qobject_cast<ChildWindow *>(window))
+            child->noteSizeGiven();
+    }
 }
 
 void frmMain::closeAllWindows()

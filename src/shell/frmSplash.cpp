@@ -13,7 +13,7 @@ frmSplash::frmSplash(QWidget *parent)
     ui->setupUi(this);
     // The program must not end with the splash, before the main window shows.
     setAttribute(Qt::WA_QuitOnClose, false);
-    setLabelFonts();
+    ui->fraEdge->setBackgroundRole(QPalette::Base);
     fillLabels();
     m_timer.setInterval(minimumTime);
     m_timer.setSingleShot(true);
@@ -30,23 +30,18 @@ void frmSplash::fillLabels()
 {
     setWindowTitle(tr("About %1").arg(app::title()));
     ui->imgIcon->setPixmap(applicationIcon().pixmap(QSize(96, 96)));
-    ui->lblTitle->setText(app::title());
-    ui->lblCompany->setText(app::company());
-    ui->lblVersion->setText(tr("Multi-User version ") + QString::number(app::versionMajor())
-                            + u'.' + QString::number(app::versionMinor()) + u"  Rev. "
-                            + QString::number(app::versionRevision()));
-    ui->lblWebsite->setText(app::website());
-}
-
-void frmSplash::setLabelFonts()
-{
     QFont large = font();
     large.setPointSizeF(large.pointSizeF() * 2.4);
     large.setWeight(QFont::DemiBold);
     ui->lblTitle->setFont(large);
-    QPalette link = palette();
-    link.setColor(QPalette::WindowText, palette().color(QPalette::Link));
-    ui->lblWebsite->setPalette(link);
+    ui->lblTitle->setText(app::title());
+    ui->lblCompany->setText(app::company());
+    ui->lblVersion->setText(tr("Multi-User version ") + QString::number(app::versionMajor()) +
+                            u'.' + QString::number(app::versionMinor()) + u"  Rev. " +
+                            QString::number(app::versionRevision()));
+    ui->lblWebsite->setText(app::website());
+    ui->lblWebsite->setForegroundRole(QPalette::Link);
+    ui->lblWebsite->setCursor(Qt::PointingHandCursor);
 }
 
 void frmSplash::setSmartUnload(bool on)
@@ -73,11 +68,4 @@ void frmSplash::mouseReleaseEvent(QMouseEvent *event)
     accept();
     if (onWebsite)
         gSys.GotoDVWebsite();
-}
-
-void frmSplash::changeEvent(QEvent *event)
-{
-    QDialog::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange && ui->lblWebsite != nullptr)
-        setLabelFonts();
 }

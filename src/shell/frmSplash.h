@@ -30,11 +30,9 @@ public:
 
 protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
-    void changeEvent(QEvent *event) override;
 
 private:
     void fillLabels();
-    void setLabelFonts();
 
     std::unique_ptr<Ui::frmSplash> ui;
     QTimer m_timer;
