@@ -2,6 +2,8 @@
 
 #include "common/base/Prompts.h"
 
+#include <QFile>
+
 #include <utility>
 
 using norvane::engine::Error;
@@ -13,6 +15,18 @@ namespace
 QString fileName(const Error &error)
 {
     return QString::fromStdString(error.file);
+}
+
+QString notFoundText(const Error &error)
+{
+    const QString file = fileName(error);
+    if (QFile::exists(file)) {
+        return QStringLiteral("The file '%1' lacks a part that this program works with: %2.")
+            .arg(file, QString::fromStdString(error.detail));
+    }
+    return QStringLiteral("The file '%1' is missing. All files of a database must be together in "
+                          "its folder. Please restore the data folder from your latest backup.")
+        .arg(file);
 }
 
 QString damageText(const Error &error)
@@ -52,8 +66,7 @@ QString engineFailureText(const Error &error)
     const QString file = fileName(error);
     switch (error.kind) {
     case ErrorKind::NotFound:
-        return QStringLiteral("'%1' does not have what was asked for: %2.")
-            .arg(file, QString::fromStdString(error.detail));
+        return notFoundText(error);
     case ErrorKind::Locked:
         return QStringLiteral("The file '%1' is in use by another workstation. Please try again "
                               "in a moment.")

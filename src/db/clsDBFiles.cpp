@@ -22,6 +22,8 @@ constexpr int PathAccess = 75;
 // no such file.
 QString existingFile(const QString &dir, const QString &name)
 {
+    if (dir.isEmpty())
+        return {};
     const QString path = clsDB::MakePath(clsSystem::LocalPath(dir), name);
     if (QFile::exists(path))
         return path;

@@ -23,9 +23,8 @@ clsDB::Handle clsDB::OpenTable(const QString &path)
         return table;
     }
 
-    // A file that is not there needs no other words than those below.
-    if (lastError(m_hSession).kind == ErrorKind::NotFound)
-        m_failures.clear();
+    // A table that is not there needs no other words than those below; for damage and the like the
+    // engine's come first.
     code4errorCode(m_hSession, 0);
     m_failures.show();
     prompts::critical(u"Unable to open: " % path);

@@ -77,6 +77,15 @@ TEST_F(Damage, ATableThatMakesNoSenseNamesItselfAndOpensNothing)
     EXPECT_EQ(1, gDB.GetRecCount(gDB.UserTable(), u"login"_s));
 }
 
+TEST_F(Damage, AMissingIndexOrMemoFileIsNamedBeforeItsTable)
+{
+    ASSERT_TRUE(QFile::remove(db.file(u"nvncust.fpt"_s)));
+    RecColl row = record(u"_customer"_s, id);
+    person.expect(u"The file '%1' is missing."_s.arg(db.file(u"nvncust.fpt"_s)));
+    person.expect(u"Unable to open: "_s + gDB.CustomerTable());
+    EXPECT_FALSE(gDB.ReadRecord(row));
+}
+
 TEST_F(Damage, EveryKindOfTruncatedFileIsRefusedOrReadWithoutHarm)
 {
     for (const char *name : {"nvncust.dbf", "nvncust.cdx", "nvncust.fpt"}) {
