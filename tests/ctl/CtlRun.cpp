@@ -53,7 +53,7 @@ CtlFolder::CtlFolder()
 
 QString CtlFolder::file(const QString &name, const QByteArray &contents) const
 {
-    const QString file = m_root.filePath(name);
+    QString file = m_root.filePath(name);
     writeAll(file, contents);
     return file;
 }
