@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <bit>
-#include <cstdlib>
+#include <cassert>
 #include <cstring>
 
 namespace norvane::engine
@@ -171,6 +171,7 @@ bool IndexLeaf::decodeEntry(ByteView page, std::size_t i, const LeafBits &bits,
 
 void IndexLeaf::encode(ByteSpan page) const
 {
+    assert(bytes() <= leafCapacity);
     const LeafBits bits = canonicalBits(m_keyLength, m_width);
     std::fill(page.begin() + 12, page.end(), Byte{0});
     putLe16(&page[2], static_cast<std::uint16_t>(count()));
@@ -206,6 +207,19 @@ std::size_t IndexLeaf::bytesJoined(const IndexLeaf &next) const
         sum -= static_cast<std::size_t>(std::mismatch(a, a + most, next.keyBytes(0)).first - a);
     }
     return sum;
+}
+
+std::size_t IndexLeaf::bytesWith(std::string_view key, std::uint32_t record) const
+{
+    const Byte *bytes = asBytes(key).data();
+    std::size_t text = strippedLength(bytes);
+    if (count() > 0) {
+        const std::size_t most = std::min<std::size_t>(m_slots.back().stripped, text);
+        text -= static_cast<std::size_t>(
+            std::mismatch(bytes, bytes + most, keyBytes(count() - 1)).first - bytes);
+    }
+    const std::size_t width = std::max<std::size_t>(m_width, widthFor(m_keyLength, record));
+    return (count() + 1) * width + m_textBytes + text;
 }
 
 int IndexLeaf::compare(std::size_t i, std::string_view key, std::uint32_t record) const

@@ -35,6 +35,9 @@ public:
     // Bytes both would take in one leaf, `next` standing behind this one.
     std::size_t bytesJoined(const IndexLeaf &next) const;
 
+    // Bytes after appending the pair.
+    std::size_t bytesWith(std::string_view key, std::uint32_t record) const;
+
     // First entry >= (key, record). A shorter key stands before all that begin with it.
     std::size_t lowerBound(std::string_view key, std::uint32_t record) const;
     void insert(std::size_t i, std::string_view key, std::uint32_t record);

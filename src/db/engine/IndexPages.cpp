@@ -13,7 +13,7 @@ constexpr std::size_t freeChainPlace = 64; // reserved bytes of the header, ours
 constexpr std::size_t headLength = 16;
 constexpr std::size_t frontLength = 16 * 1024; // tag headers and roots mostly lie in it
 constexpr std::uint64_t firstLockByte = 0x7FFFFFFE;
-constexpr std::size_t mostCachedBytes = 64 * 1024 * 1024;
+constexpr std::size_t mostCachedBytes = 128 * 1024 * 1024;
 
 std::uint32_t freeHeadIn(ByteView header)
 {
@@ -52,8 +52,9 @@ bool IndexPages::plausible(std::uint64_t offset) const
 
 void IndexPages::forget()
 {
-    m_known = m_changed = m_broken = false;
+    m_known = m_broken = false;
     m_pages.clear();
+    m_dirty.clear();
     m_front.clear();
     m_cachedBytes = 0;
 }
@@ -81,7 +82,7 @@ Status IndexPages::load()
 
 Status IndexPages::refresh()
 {
-    if (m_changed || m_broken)
+    if (changed() || m_broken)
         return Error{ErrorKind::Misuse, m_file->path(), "index changes were not committed"};
     if (!m_known)
         return load();
@@ -135,11 +136,19 @@ Result<IndexPage *> IndexPages::fetch(std::uint32_t offset, const TreeShape &sha
 IndexPage *IndexPages::makePage(std::uint32_t offset, PageKind kind, const TreeShape &shape)
 {
     auto page = std::make_unique<IndexPage>(offset, kind, shape);
-    page->fresh = true;
-    touch(*page);
     std::unique_ptr<IndexPage> &slot = m_pages[offset];
+    page->fresh = true;
+    page->dirty = slot && slot->dirty; // a page freed by this very change is listed already
     slot = std::move(page);
+    touch(*slot);
     return slot.get();
+}
+
+void IndexPages::touch(IndexPage &page)
+{
+    if (!page.dirty)
+        m_dirty.push_back(page.offset);
+    page.dirty = true;
 }
 
 Result<IndexPage *> IndexPages::allocate(PageKind kind, const TreeShape &shape)
@@ -196,10 +205,8 @@ void IndexPages::trim()
 std::vector<const IndexPage *> IndexPages::changedPages() const
 {
     std::vector<const IndexPage *> pages;
-    for (const auto &[offset, page] : m_pages) {
-        if (page->dirty)
-            pages.push_back(page.get());
-    }
+    for (const std::uint32_t offset : m_dirty)
+        pages.push_back(m_pages.at(offset).get());
     std::sort(pages.begin(), pages.end(), [](const IndexPage *a, const IndexPage *b) {
         const int rankA = writingRank(*a), rankB = writingRank(*b);
         return rankA != rankB ? rankA < rankB : a->offset < b->offset;
@@ -210,7 +217,7 @@ std::vector<const IndexPage *> IndexPages::changedPages() const
 std::vector<PageChange> IndexPages::changes() const
 {
     std::vector<PageChange> list;
-    if (!m_changed || m_broken)
+    if (!changed() || m_broken)
         return list;
     for (const IndexPage *page : changedPages()) {
         PageChange change{page->offset, std::vector<Byte>(indexPageSize)};
@@ -234,7 +241,7 @@ Status IndexPages::commit()
 {
     if (m_broken)
         return Error{ErrorKind::Misuse, m_file->path(), "an index change broke off half way"};
-    if (!m_changed)
+    if (!changed())
         return {};
     const std::vector<PageChange> list = changes();
     for (const PageChange &change : list) {
@@ -244,21 +251,25 @@ Status IndexPages::commit()
         }
     }
     std::copy(list.back().bytes.begin(), list.back().bytes.end(), m_header.begin());
-    for (const auto &[offset, page] : m_pages)
-        page->dirty = page->fresh = false;
+    for (const std::uint32_t offset : m_dirty) {
+        IndexPage &page = *m_pages.at(offset);
+        page.dirty = page.fresh = false;
+    }
+    m_dirty.clear();
     m_committedSize = m_size;
     m_committedFreeHead = m_freeHead;
     m_front.clear(); // older than the pages just written
-    m_changed = false;
     return {};
 }
 
 void IndexPages::discard()
 {
-    std::erase_if(m_pages, [](const auto &entry) { return entry.second->dirty; });
+    for (const std::uint32_t offset : m_dirty)
+        m_pages.erase(offset);
+    m_dirty.clear();
     m_size = m_committedSize;
     m_freeHead = m_committedFreeHead;
-    m_changed = m_broken = false;
+    m_broken = false;
 }
 
 } // namespace norvane::engine

@@ -45,7 +45,7 @@ public:
     // An empty page for a tree. TooLarge when the file would grow into its lock bytes.
     Result<IndexPage *> allocate(PageKind kind, const TreeShape &shape);
     void release(IndexPage &page);
-    void touch(IndexPage &page) { page.dirty = m_changed = true; }
+    void touch(IndexPage &page);
     // Forgets unchanged pages when there are very many. No page pointer may be in use.
     void trim();
 
@@ -70,10 +70,10 @@ private:
     IndexPage *makePage(std::uint32_t offset, PageKind kind, const TreeShape &shape);
     bool takeFreePage(std::uint32_t &offset);
     std::vector<const IndexPage *> changedPages() const;
+    bool changed() const { return !m_dirty.empty(); }
 
     std::shared_ptr<File> m_file;
     bool m_known = false; // header, size and pages fit the file
-    bool m_changed = false;
     bool m_broken = false;
     RawPage m_header{};
     std::uint64_t m_size = 0;          // bytes, new pages included
@@ -82,6 +82,7 @@ private:
     std::uint32_t m_committedFreeHead = 0;
     std::vector<Byte> m_front; // start of the file, read along with the header
     PageMap m_pages;
+    std::vector<std::uint32_t> m_dirty; // offsets of changed pages
     std::size_t m_cachedBytes = 0;
 };
 

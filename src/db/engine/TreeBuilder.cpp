@@ -21,13 +21,11 @@ TreeBuilder::TreeBuilder(const TreeShape &shape, std::uint64_t first)
 void TreeBuilder::add(std::string_view key, std::uint32_t record)
 {
     IndexLeaf &leaf = m_leaf.leaf;
-    leaf.append(key, record);
-    const std::size_t limit = leaf.count() <= fewEntries ? leafCapacity : leafFill;
-    if (leaf.bytes() <= limit)
-        return;
-    leaf.erase(leaf.count() - 1);
-    writePage(m_leaf, false);
-    leaf.clear();
+    const std::size_t limit = leaf.count() < fewEntries ? leafCapacity : leafFill;
+    if (leaf.count() > 0 && leaf.bytesWith(key, record) > limit) {
+        writePage(m_leaf, false);
+        leaf.clear();
+    }
     leaf.append(key, record);
 }
 
