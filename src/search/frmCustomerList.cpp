@@ -38,7 +38,7 @@ void frmCustomerList::setUpList()
         {tr("Name"), QStringLiteral("N"), 190},
         {label("company"), QStringLiteral("C"), 210},
         {label("custno"), QStringLiteral("O"), 120},
-        {label("workphone"), QStringLiteral("P"), 120},
+        {label("workphone"), QStringLiteral("P"), 150},
         {label("city"), QStringLiteral("L"), 120},
     });
 }

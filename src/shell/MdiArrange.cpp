@@ -2,6 +2,9 @@
 
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QStyle>
+
+#include <algorithm>
 
 namespace
 {
@@ -48,19 +51,38 @@ void tileWindows(QMdiArea *area, Tiling tiling)
 {
     const bool rows = tiling == Tiling::Horizontally;
     const QSize room = area->viewport()->size();
+    const int length = rows ? room.height() : room.width();
     const QList<QMdiSubWindow *> windows = windowsOf(area, false);
     QList<int> needs;
     for (const QMdiSubWindow *window : windows)
         needs += rows ? window->minimumSizeHint().height() : window->minimumSizeHint().width();
-    const QList<int> parts = shares(rows ? room.height() : room.width(), needs);
+    const QList<int> parts = shares(length, needs);
     int start = 0;
     for (int at = 0; at < windows.size(); ++at) {
+        // With too little room for all, the last ones overlap; none is cut off.
+        const int place = qBound(0, start, qMax(0, length - parts[at]));
         windows[at]->showNormal();
-        if (rows)
-            windows[at]->setGeometry(0, start, room.width(), parts[at]);
-        else
-            windows[at]->setGeometry(start, 0, parts[at], room.height());
+        windows[at]->setGeometry(rows ? QRect(0, place, room.width(), parts[at])
+                                      : QRect(place, 0, parts[at], room.height()));
         start += parts[at];
+    }
+}
+
+void cascadeWindows(QMdiArea *area)
+{
+    const QSize room = area->viewport()->size();
+    int offset = 0;
+    QList<QMdiSubWindow *> windows = windowsOf(area, false);
+    std::reverse(windows.begin(), windows.end()); // the one in front comes last
+    for (QMdiSubWindow *window : windows) {
+        const int step = window->style()->pixelMetric(QStyle::PM_TitleBarHeight) + 4;
+        if (offset > room.height() / 3)
+            offset = 0;
+        window->showNormal();
+        window->move(offset, offset);
+        window->resize(window->sizeHint().boundedTo(room - QSize(offset, offset)));
+        window->raise();
+        offset += step;
     }
 }
 

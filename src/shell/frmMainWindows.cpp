@@ -17,7 +17,7 @@ void frmMain::connectWindowMenu()
         noteSizesGiven();
     });
     connect(ui->mnuWindowCascade, &QAction::triggered, this, [this] {
-        ui->mdiArea->cascadeSubWindows();
+        cascadeWindows(ui->mdiArea);
         noteSizesGiven();
     });
     connect(ui->mnuWindowArrangeIcons, &QAction::triggered, this,

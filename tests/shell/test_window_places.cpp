@@ -148,6 +148,21 @@ TEST_F(ChildWindows, ForgetTheSizesOfAnArrangement)
     }
 }
 
+TEST_F(ChildWindows, CascadeWithinTheMainWindowTheActiveOneInFront)
+{
+    openWithDatabase();
+    QList<QMdiSubWindow *> frames;
+    for (int count = 0; count < 14; ++count)
+        frames += show(count == 0 ? static_cast<FormWindow *>(new WideForm) : new SmallForm);
+    area()->setActiveSubWindow(frames[3]);
+    choose("mnuWindowCascade");
+    for (const QMdiSubWindow *frame : frames)
+        EXPECT_TRUE(room().contains(frame->geometry()));
+    EXPECT_EQ(area()->subWindowList(QMdiArea::StackingOrder).last(), frames[3]);
+    EXPECT_EQ(area()->activeSubWindow(), frames[3]);
+    EXPECT_GT(frames[1]->y(), frames[0]->y());
+}
+
 TEST_F(ChildWindows, TilingSqueezesNoWindowBelowWhatItNeeds)
 {
     openWithDatabase();
@@ -159,6 +174,11 @@ TEST_F(ChildWindows, TilingSqueezesNoWindowBelowWhatItNeeds)
     EXPECT_GE(tall->widget()->height(), 420);
     EXPECT_LE(qAbs(first->height() - third->height()), 1);
     EXPECT_EQ(first->height() + tall->height() + third->height(), room().height());
+    first->widget()->setMinimumHeight(420); // more than there is: overlapping, but not cut off
+    choose("mnuWindowTH");
+    EXPECT_GE(first->widget()->height(), 420);
+    for (const QMdiSubWindow *window : {first, tall, third})
+        EXPECT_TRUE(room().contains(window->geometry()));
 }
 
 TEST_F(ChildWindows, TileInRowsAndInColumns)
