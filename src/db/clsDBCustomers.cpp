@@ -22,7 +22,7 @@ QString fullName(const TableUse &customers)
 QString companyAndName(const TableUse &customers)
 {
     const QString company = customers.text(QStringLiteral("company"));
-    const QString name = fullName(customers);
+    QString name = fullName(customers);
     if (company.isEmpty())
         return name;
     return name.isEmpty() ? company : QString(company % u" (" % name % u')');

@@ -24,7 +24,7 @@ QString existingFile(const QString &dir, const QString &name)
 {
     if (dir.isEmpty())
         return {};
-    const QString path = clsDB::MakePath(clsSystem::LocalPath(dir), name);
+    QString path = clsDB::MakePath(clsSystem::LocalPath(dir), name);
     if (QFile::exists(path))
         return path;
     const QDir folder(clsSystem::LocalPath(dir));
