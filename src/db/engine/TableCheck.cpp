@@ -61,8 +61,8 @@ std::uint32_t blockOf(const FieldDef &field, ByteView row)
         return getLe32(bytes.data());
     const std::string_view text = trimmed(asText(bytes));
     std::uint32_t block = 0;
-    std::from_chars(text.data(), text.data() + text.size(), block);
-    return block;
+    const auto result = std::from_chars(text.data(), text.data() + text.size(), block);
+    return result.ec == std::errc::result_out_of_range ? UINT32_MAX : block; // in no file
 }
 
 struct MemoUse {

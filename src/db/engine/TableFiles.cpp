@@ -86,11 +86,17 @@ Status TableFiles::openBeside()
     }
     if (!m_header.hasIndex())
         return {};
-    Result<std::unique_ptr<File>> file = openAny(m_system, besidePath(path(), "cdx"), onlyRead);
+    return openIndex(besidePath(path(), "cdx"), onlyRead);
+}
+
+Status TableFiles::openIndex(const std::string &path, bool readOnly)
+{
+    Result<std::unique_ptr<File>> file = openAny(m_system, path, readOnly);
     if (!file.ok())
         return file.error();
-    m_indexFile.emplace(std::shared_ptr<File>(std::move(*file)));
-    Result<std::unique_ptr<IndexFile>> index = IndexFile::open(m_indexFile->shared(), layout());
+    m_indexWrites = std::make_shared<UndoFile>(std::move(*file));
+    m_indexFile.emplace(m_indexWrites);
+    Result<std::unique_ptr<IndexFile>> index = IndexFile::open(m_indexWrites, layout());
     if (!index.ok())
         return index.error();
     m_index = std::move(*index);
@@ -224,9 +230,15 @@ Status TableFiles::writeDate()
 Status TableFiles::commitIndex()
 {
     ++m_stamp;
-    if (!exclusive())
-        return m_index->commit();
-    return ++m_indexWaits < kMostWaiting ? Status() : writeOut();
+    if (exclusive())
+        return ++m_indexWaits < kMostWaiting ? Status() : writeOut();
+    m_indexWrites->begin();
+    Status status = m_index->commit();
+    if (status.ok())
+        m_indexWrites->keep();
+    else
+        (void)m_indexWrites->undo();
+    return status;
 }
 
 Status TableFiles::dropIndexChanges()
@@ -250,9 +262,10 @@ Status TableFiles::writeOut()
     Status status = writeOutCount();
     if (m_indexWaits > 0) {
         Status committed = m_index->commit();
-        if (committed.ok())
-            m_indexWaits = 0;
-        else if (status.ok())
+        m_indexWaits = 0;
+        if (!committed.ok())
+            committed = rebuildIndex(); // many rows' keys were to come with it
+        if (status.ok())
             status = committed;
     }
     return status;
@@ -319,20 +332,15 @@ Status TableFiles::rebuildIndex()
     }
     m_index.reset(); // an open file cannot be replaced everywhere
     m_indexFile.reset();
+    m_indexWrites.reset();
     const Status renamed = m_system.rename(beside, live);
     if (!renamed.ok())
         (void)m_system.remove(beside);
     ++m_stamp;
-    Result<std::unique_ptr<File>> file = openAny(m_system, live, false);
-    if (!file.ok())
-        return file.error();
-    m_indexFile.emplace(std::shared_ptr<File>(std::move(*file)));
-    Result<std::unique_ptr<IndexFile>> index = IndexFile::open(m_indexFile->shared(), layout());
-    if (!index.ok())
-        return index.error();
-    m_index = std::move(*index);
-    const Status read = m_index->refresh();
-    return renamed.ok() ? read : renamed;
+    Status opened = openIndex(live, false);
+    if (opened.ok())
+        opened = m_index->refresh();
+    return renamed.ok() ? opened : renamed;
 }
 
 TableFiles::IndexLock::~IndexLock()

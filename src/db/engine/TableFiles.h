@@ -7,6 +7,7 @@
 #include "db/engine/LockWait.h"
 #include "db/engine/MemoFile.h"
 #include "db/engine/TableFormat.h"
+#include "db/engine/UndoFile.h"
 
 #include <cstdint>
 #include <memory>
@@ -94,6 +95,7 @@ private:
     }
 
     Status openBeside();
+    Status openIndex(const std::string &path, bool readOnly);
     Status writeCount(std::uint32_t count);
     Status writeOutCount();
 
@@ -103,6 +105,7 @@ private:
     std::uint32_t m_count = 0;
     std::uint64_t m_size = 0; // bytes, as of the last look
     std::optional<LockedFile> m_indexFile;
+    std::shared_ptr<UndoFile> m_indexWrites; // the same file
     std::unique_ptr<IndexFile> m_index;
     std::unique_ptr<MemoFile> m_memo;
     int m_exclusive = 0;

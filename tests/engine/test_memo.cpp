@@ -1,0 +1,114 @@
+#include "engine/TableFixture.h"
+
+#include "db/engine/LockPlaces.h"
+#include "db/engine/MemoFile.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+using namespace norvane::engine;
+using namespace enginetest;
+
+namespace
+{
+
+class Memos : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        writeFile(m_path, makeMemoHeader());
+        reopen();
+    }
+    void reopen()
+    {
+        m_memo.reset();
+        m_memo = std::make_unique<MemoFile>(
+            std::shared_ptr<File>(std::move(*systemFiles().open(m_path, OpenMode::ReadWrite))));
+    }
+    std::vector<std::uint32_t> add(const std::vector<std::string_view> &texts)
+    {
+        const auto blocks = m_memo->append(texts, {1, std::chrono::milliseconds(1), {}}, false);
+        EXPECT_TRUE(blocks.ok()) << blocks.error().detail;
+        return blocks.ok() ? *blocks : std::vector<std::uint32_t>();
+    }
+    std::string textAt(std::uint32_t block)
+    {
+        const auto text = m_memo->read(block);
+        return text.ok() ? *text : "(" + text.error().detail + ")";
+    }
+
+    TempFolder m_folder;
+    std::string m_path = m_folder / "some.fpt";
+    std::unique_ptr<MemoFile> m_memo;
+};
+
+TEST_F(Memos, TextsOfEachLengthComeBack)
+{
+    // around block borders, around what one read brings, at the limit of the program's boxes
+    for (const std::size_t size : {1U, 55U, 56U, 57U, 64U, 2039U, 2040U, 2041U, 32767U, 300000U}) {
+        std::string text(size, '\0');
+        for (std::size_t i = 0; i < size; ++i)
+            text[i] = static_cast<char>(i * 7);
+        const auto blocks = add({text, "and another"});
+        ASSERT_EQ(blocks.size(), 2U);
+        EXPECT_EQ(textAt(blocks[0]), text) << size;
+        EXPECT_EQ(textAt(blocks[1]), "and another") << size;
+        EXPECT_EQ(m_memo->headerProblem().value(), "");
+    }
+    EXPECT_EQ(std::filesystem::file_size(m_path) % 64, 0U);
+}
+
+TEST_F(Memos, AHeaderThatLagsOrRunsAwayCostsNoText)
+{
+    const std::uint32_t first = add({"first text"})[0];
+    for (const std::uint32_t next : {0U, 8U, 9U, 5000U, 0xFFFFFFFFU}) {
+        Bytes bytes = readFile(m_path);
+        putBe32(bytes.data(), next);
+        writeFile(m_path, bytes);
+        reopen();
+        const std::uint32_t more = add({"more"})[0];
+        EXPECT_EQ(textAt(first), "first text") << next;
+        EXPECT_EQ(textAt(more), "more") << next;
+        EXPECT_EQ(m_memo->headerProblem().value(), "") << next;
+    }
+}
+
+TEST_F(Memos, AFileThatEndsBehindItsLastTextIsContinued)
+{
+    const std::uint32_t first = add({"first text"})[0];
+    std::filesystem::resize_file(m_path, 512 + 8 + 10); // as other programs leave it
+    EXPECT_EQ(m_memo->headerProblem().value(), "");
+    EXPECT_EQ(textAt(first), "first text");
+    EXPECT_EQ(add({"second"})[0], 9U);
+    EXPECT_EQ(textAt(first), "first text");
+}
+
+TEST_F(Memos, PointersToNoTextAreDamage)
+{
+    add({"a text"});
+    for (const std::uint32_t block : {0U, 7U, 9U, 1000U, 0x7FFFFFFFU, 0xFFFFFFFFU})
+        EXPECT_EQ(m_memo->read(block).error().kind, ErrorKind::Damaged) << block;
+    Bytes bytes = readFile(m_path);
+    putBe32(&bytes[516], 0xFFFFFFFF); // a length beyond the file
+    writeFile(m_path, bytes);
+    EXPECT_EQ(m_memo->read(8).error().kind, ErrorKind::Damaged);
+    EXPECT_EQ(m_memo->extentOf(8).error().kind, ErrorKind::Damaged);
+    putBe32(&bytes[512], 0); // a picture
+    writeFile(m_path, bytes);
+    EXPECT_EQ(m_memo->read(8).error().kind, ErrorKind::Damaged);
+}
+
+TEST_F(Memos, AllocationWaitsForTheMemoLock)
+{
+    const auto other = std::move(*systemFiles().open(m_path, OpenMode::ReadWrite));
+    ASSERT_TRUE(other->tryLock(kLockByte, 1, LockMode::Exclusive).ok());
+    const auto refused = m_memo->append({"text"}, {2, std::chrono::milliseconds(5), {}}, false);
+    EXPECT_EQ(refused.error().kind, ErrorKind::Locked);
+    ASSERT_TRUE(other->unlock(kLockByte, 1).ok());
+    EXPECT_EQ(add({"text"})[0], 8U);
+    EXPECT_TRUE(other->tryLock(kLockByte, 1, LockMode::Exclusive).ok()); // given back
+}
+
+} // namespace
