@@ -9,7 +9,7 @@
 #include "ui_frmCustomerList.h"
 
 #include <QCloseEvent>
-#include <QHeaderView>
+#include <QLayout>
 #include <QScopedValueRollback>
 #include <QShortcut>
 
@@ -34,13 +34,14 @@ void frmCustomerList::setUpList()
     const auto label = [](const char *field) {
         return CustomLabels.GetCustomerLabelName(QString::fromLatin1(field), false);
     };
-    ui->lvCustomers->setColumns({
-        {tr("Name"), QStringLiteral("N"), 190},
-        {label("company"), QStringLiteral("C"), 210},
-        {label("custno"), QStringLiteral("O"), 120},
-        {label("workphone"), QStringLiteral("P"), 150},
+    const QList<ListView::Column> columns{
+        {tr("Name"), QStringLiteral("N"), 190},      {label("company"), QStringLiteral("C"), 210},
+        {label("custno"), QStringLiteral("O"), 120}, {label("workphone"), QStringLiteral("P"), 150},
         {label("city"), QStringLiteral("L"), 120},
-    });
+    };
+    for (const ListView::Column &column : columns)
+        m_columnsWidth += column.width;
+    ui->lvCustomers->setColumns(columns);
 }
 
 void frmCustomerList::addShortcuts()
@@ -67,12 +68,13 @@ void frmCustomerList::reload()
     SetUI();
 }
 
+// The columns as they are designed: the last one takes whatever width is left.
 QSize frmCustomerList::sizeHint() const
 {
     const QMargins margins = layout()->contentsMargins();
-    const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-    return {ui->lvCustomers->header()->length() + scrollBar + margins.left() + margins.right() +
-                2 * ui->lvCustomers->frameWidth(),
+    const int edges = style()->pixelMetric(QStyle::PM_ScrollBarExtent) + margins.left() +
+                      margins.right() + 2 * ui->lvCustomers->frameWidth();
+    return {m_columnsWidth * logicalDpiX() / 96 + edges,
             FormWindow::sizeHint().height() + 12 * fontMetrics().height()};
 }
 

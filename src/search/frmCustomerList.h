@@ -56,6 +56,7 @@ private:
     std::unique_ptr<Ui::frmCustomerList> ui;
     QString m_sSearchStr;
     qint32 m_SearchType = 0;
+    int m_columnsWidth = 0; // pixels at 96 dpi
     bool m_bLoading = false;
     bool m_bCancelled = false;
 };

@@ -5,6 +5,7 @@
 #include <QStyle>
 
 #include <algorithm>
+#include <numeric>
 
 namespace
 {
@@ -19,28 +20,20 @@ QList<QMdiSubWindow *> windowsOf(const QMdiArea *area, bool minimised)
     return windows;
 }
 
-// Equal parts of the room, but for windows that need more than their part.
+// Equal parts of the room, but for windows that need more than their part: those are served first,
+// the neediest at the head.
 QList<int> shares(int room, const QList<int> &needs)
 {
+    QList<int> order(needs.size());
+    std::iota(order.begin(), order.end(), 0);
+    std::stable_sort(order.begin(), order.end(),
+                     [&needs](int one, int other) { return needs[one] > needs[other]; });
     QList<int> result(needs.size(), 0);
-    int left = room;
-    int open = static_cast<int>(needs.size());
-    for (bool changed = true; changed && open > 0;) {
-        changed = false;
-        for (int at = 0; at < needs.size() && open > 0; ++at) {
-            if (result[at] > 0 || needs[at] <= left / open)
-                continue;
-            result[at] = needs[at];
-            left -= needs[at];
-            --open;
-            changed = true;
-        }
-    }
-    for (int &share : result) {
-        if (share > 0)
-            continue;
-        share = left / open--;
-        left -= share;
+    int waiting = static_cast<int>(needs.size());
+    for (const int at : order) {
+        result[at] = qMax(needs[at], room / qMax(1, waiting));
+        room -= result[at];
+        --waiting;
     }
     return result;
 }
