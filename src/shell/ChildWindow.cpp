@@ -5,6 +5,7 @@
 #include <QEvent>
 #include <QMdiArea>
 #include <QStringList>
+#include <QStyle>
 
 namespace
 {
@@ -28,17 +29,26 @@ QString ChildWindow::sizeName() const
     return u"size_" + QString::fromLatin1(widget()->metaObject()->className());
 }
 
-void ChildWindow::openAtItsSize()
+void ChildWindow::openAtItsSize(const QMdiSubWindow *behind)
 {
+    if (isMaximized()) // like the window that was in use
+        return;
     const QSize room = mdiArea()->viewport()->size();
     QSize wanted = sizeFromText(GetPrefStr(sizeName()));
     if (wanted.width() < 1 || wanted.height() < 1)
         wanted = sizeHint().expandedTo(size());
     resize(wanted.boundedTo(room));
     noteSizeGiven();
-    // The area puts windows beside each other where there is room, and may reach beyond its edge.
-    const QPoint lowest(qMax(0, room.width() - width()), qMax(0, room.height() - height()));
-    move(qBound(0, x(), lowest.x()), qBound(0, y(), lowest.y()));
+
+    QPoint place;
+    if (behind != nullptr && !behind->isMinimized()) {
+        const int step = style()->pixelMetric(QStyle::PM_TitleBarHeight) + 4;
+        place = behind->pos() + QPoint(step, step);
+    }
+    const QPoint lowest(room.width() - width(), room.height() - height());
+    if (place.x() > lowest.x() || place.y() > lowest.y())
+        place = {qBound(0, place.x(), lowest.x()), 0}; // from the top again
+    move(place);
 }
 
 void ChildWindow::rememberSize() const

@@ -10,8 +10,9 @@ class ChildWindow : public QMdiSubWindow
 public:
     explicit ChildWindow(QWidget *form);
 
-    // Call once the frame is in its area and shown.
-    void openAtItsSize();
+    // Call once the frame is in its area and shown. `behind` is the window that was in use, null
+    // when there was none; this one stands a title bar below it.
+    void openAtItsSize(const QMdiSubWindow *behind);
     // The size it has now was not chosen by a person, and is not to be remembered.
     void noteSizeGiven() { m_sizeGiven = size(); }
 

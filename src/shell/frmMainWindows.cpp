@@ -28,11 +28,12 @@ void frmMain::connectWindowMenu()
 
 void frmMain::showChild(QWidget *form)
 {
+    const QMdiSubWindow *behind = ui->mdiArea->activeSubWindow();
     auto *frame = new ChildWindow(form);
     frame->setWindowIcon(windowIcon());
     ui->mdiArea->addSubWindow(frame);
     frame->show();
-    frame->openAtItsSize();
+    frame->openAtItsSize(behind);
     ui->mdiArea->setActiveSubWindow(frame);
 }
 

@@ -112,10 +112,25 @@ TEST_F(ChildWindows, OpenAtTheSizeTheyWantButInsideTheMainWindow)
     openWithDatabase();
     const QMdiSubWindow *small = show(new SmallForm);
     EXPECT_EQ(small->widget()->size(), QSize(400, 300));
+    const QPoint next = show(new SmallForm)->pos() - small->pos();
+    EXPECT_GT(next.x(), 0);
+    EXPECT_EQ(next.x(), next.y());
     const QMdiSubWindow *wide = show(new WideForm);
     EXPECT_EQ(wide->width(), room().width());
     for (int count = 0; count < 12; ++count)
         EXPECT_TRUE(room().contains(show(new SmallForm)->geometry())) << count;
+}
+
+TEST_F(ChildWindows, OpenMaximisedWhenTheOneInUseIs)
+{
+    openWithDatabase();
+    show(new SmallForm)->showMaximized();
+    QMdiSubWindow *second = show(new SmallForm);
+    EXPECT_TRUE(second->isMaximized());
+    second->showNormal();
+    EXPECT_TRUE(room().contains(second->geometry()));
+    second->close();
+    EXPECT_EQ(openForms().size(), 1);
 }
 
 TEST_F(ChildWindows, RememberTheirSizeByKind)
