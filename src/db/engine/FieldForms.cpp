@@ -49,6 +49,12 @@ std::string_view withoutPlus(std::string_view text)
     return text;
 }
 
+std::string problemOf(std::string_view text, std::string_view what)
+{
+    std::string sentence(1, '\'');
+    return sentence.append(text).append("' is not a ").append(what);
+}
+
 std::string numberProblem(std::string_view text, int decimals)
 {
     std::string_view rest = withoutLeadingBlanks(text);
@@ -68,8 +74,7 @@ std::string numberProblem(std::string_view text, int decimals)
             : allDigits(fraction) && fraction.size() == static_cast<std::size_t>(decimals);
     if (wholeFits && fractionFits)
         return {};
-    return "'" + std::string(text) + "' is not a number with " + std::to_string(decimals) +
-           " decimals";
+    return problemOf(text, "number with " + std::to_string(decimals) + " decimals");
 }
 
 std::string pointerProblem(std::string_view text)
@@ -77,7 +82,7 @@ std::string pointerProblem(std::string_view text)
     const std::string_view digits = withoutLeadingBlanks(text);
     if (digits.empty() || (allDigits(digits) && digits.front() != '0'))
         return {};
-    return "'" + std::string(text) + "' is not a memo block number";
+    return problemOf(text, "memo block number");
 }
 
 } // namespace
@@ -143,12 +148,11 @@ std::string fieldProblem(const FieldDef &field, ByteView row)
     case 'F':
         return numberProblem(text, field.decimals);
     case 'D':
-        return trimmed(text).empty() || isDate(text) ? ""
-                                                     : "'" + std::string(text) + "' is not a date";
+        return trimmed(text).empty() || isDate(text) ? std::string() : problemOf(text, "date");
     case 'L':
         return text.find_first_not_of("TFtfYyNn ?") == std::string_view::npos
-                   ? ""
-                   : "'" + std::string(text) + "' is not a truth value";
+                   ? std::string()
+                   : problemOf(text, "truth value");
     case 'M':
         return field.length == 10 ? pointerProblem(text) : "";
     default:
