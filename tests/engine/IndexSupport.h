@@ -93,9 +93,9 @@ inline Result<std::vector<IndexEntry>> walk(IndexFile &index, int tag)
     }
 }
 
-inline void expectSound(IndexFile &index, RowSource rows)
+inline void expectSound(IndexFile &index, const RowSource &rows)
 {
-    const auto findings = checkIndex(index, std::move(rows));
+    const auto findings = checkIndex(index, rows);
     ASSERT_TRUE(findings.ok()) << findings.error().detail;
     for (const std::string &line : *findings)
         ADD_FAILURE() << line;

@@ -108,7 +108,7 @@ void Grid::copySelection() const
     const QItemSelection selection = selectionModel()->selection();
     if (selection.isEmpty())
         return;
-    const QItemSelectionRange block = selection.first();
+    const QItemSelectionRange &block = selection.first();
     QStringList lines;
     for (int row = block.top(); row <= block.bottom(); ++row) {
         QStringList cells;
@@ -198,6 +198,7 @@ bool Grid::isLastCell(bool forward) const
 // back, so that the keyboard is not caught in the grid.
 bool Grid::focusNextPrevChild(bool next)
 {
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call): past the table view, on purpose
     return isLastCell(next) ? QWidget::focusNextPrevChild(next)
                             : QTableView::focusNextPrevChild(next);
 }

@@ -159,7 +159,7 @@ Status IndexBuilder::writeTree(const TreeShape &shape, KeyList &keys)
 } // namespace
 
 Status buildIndex(File &target, const RowLayout &layout, const std::vector<TagDef> &tags,
-                  RowSource rows)
+                  const RowSource &rows)
 {
     IndexBuilder builder(target, layout);
     for (const TagDef &tag : tags) {

@@ -282,7 +282,7 @@ Status checkRows(const std::vector<IndexTag> &tags, const std::vector<TagInfo> &
 
 } // namespace
 
-Result<std::vector<std::string>> checkIndex(IndexFile &index, RowSource rows)
+Result<std::vector<std::string>> checkIndex(IndexFile &index, const RowSource &rows)
 {
     IndexFile::Impl &impl = *index.m_impl;
     if (Status fresh = impl.pages.refresh(); !fresh.ok())

@@ -86,7 +86,7 @@ public:
     void discard();
 
 private:
-    friend Result<std::vector<std::string>> checkIndex(IndexFile &index, RowSource rows);
+    friend Result<std::vector<std::string>> checkIndex(IndexFile &index, const RowSource &rows);
     struct Impl;
     explicit IndexFile(std::unique_ptr<Impl> impl);
     std::unique_ptr<Impl> m_impl;
@@ -99,10 +99,10 @@ struct RowSource {
 
 // Writes a whole new index over an empty file: tags in the order given, leaves nearly full.
 Status buildIndex(File &target, const RowLayout &layout, const std::vector<TagDef> &tags,
-                  RowSource rows);
+                  const RowSource &rows);
 
 // Full structural check of all tags: levels, links, order, parents, page use, and that each tag
 // holds exactly the keys of `rows`. One line of text for each finding; empty when sound.
-Result<std::vector<std::string>> checkIndex(IndexFile &index, RowSource rows);
+Result<std::vector<std::string>> checkIndex(IndexFile &index, const RowSource &rows);
 
 } // namespace norvane::engine
