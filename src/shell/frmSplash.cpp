@@ -15,6 +15,7 @@ frmSplash::frmSplash(QWidget *parent)
     setAttribute(Qt::WA_QuitOnClose, false);
     ui->fraEdge->setBackgroundRole(QPalette::Base);
     fillLabels();
+    m_timer.setTimerType(Qt::PreciseTimer); // a coarse one may be early
     m_timer.setInterval(minimumTime);
     m_timer.setSingleShot(true);
     connect(&m_timer, &QTimer::timeout, this, [this] {

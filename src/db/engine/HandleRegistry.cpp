@@ -20,8 +20,9 @@ HandleRegistry::~HandleRegistry() = default;
 
 HandleRegistry &handleRegistry()
 {
-    static HandleRegistry registry;
-    return registry;
+    // Never destroyed: a session may be ended by another object that outlives main().
+    static HandleRegistry *const registry = new HandleRegistry;
+    return *registry;
 }
 
 Handle HandleRegistry::add(Slot slot)
