@@ -1,10 +1,9 @@
-#include "CustomerStore.h"
+#include "EngineStore.h"
 
-#include "db/engine/engine.h"
 #include "db/engine/File.h"
 #include "db/engine/TableCreate.h"
 
-#include <stdexcept>
+#include <filesystem>
 
 using namespace norvane::engine;
 
@@ -14,152 +13,202 @@ namespace bench
 namespace
 {
 
-TableDef customerTable()
+constexpr std::string_view kCounterName = "NVNISSUES.DBF";
+
+[[noreturn]] void fail(const Error &error)
 {
-    TableDef table;
-    table.fields = {
-        {"ROWID", 'N', 0, 10, 0},     {"CUSTNO", 'C', 0, 40, 0},  {"FIRSTNAME", 'C', 0, 25, 0},
-        {"LASTNAME", 'C', 0, 25, 0},  {"COMPANY", 'C', 0, 50, 0}, {"CITY", 'C', 0, 30, 0},
-        {"WORKPHONE", 'C', 0, 25, 0}, {"CUSTCAT", 'N', 0, 10, 0}, {"NOTES", 'M', 0, 10, 0}};
-    table.tags = {{"ROWID", "ROWID", ".NOT. DELETED()"},
-                  {"CUSTNO", "UPPER(CUSTNO)", ".NOT. DELETED()"},
-                  {"LASTNAME", "UPPER(LASTNAME)", ".NOT. DELETED()"},
-                  {"COMPANY", "UPPER(COMPANY)", ".NOT. DELETED()"},
-                  {"WORKPHONE", "UPPER(WORKPHONE)", ".NOT. DELETED()"}};
-    return table;
+    throw std::runtime_error(error.file + ": " + error.detail);
 }
-
-class EngineStore final : public CustomerStore
-{
-public:
-    explicit EngineStore(const std::string &folder)
-        : m_base(folder + "/customers."), m_session(d4init_v())
-    {
-        code4errorHandler(m_session, [](const Error &error) {
-            throw std::runtime_error(error.file + ": " + error.detail);
-        });
-        const Status made = createTable(systemFiles(), customerTable(),
-                                        {m_base + "dbf", m_base + "cdx", m_base + "fpt"});
-        if (!made.ok())
-            throw std::runtime_error(made.error().detail);
-    }
-    ~EngineStore() override { d4initUndo(m_session); }
-    EngineStore(const EngineStore &) = delete;
-    EngineStore &operator=(const EngineStore &) = delete;
-
-    void fill(int rows) override
-    {
-        code4accessMode(m_session, 1);
-        open();
-        for (int i = 0; i < rows; ++i)
-            append(makeCustomer(kFirstId + i));
-        close();
-        code4accessMode(m_session, 0);
-    }
-
-    void open() override
-    {
-        m_table = d4open(m_session, m_base + "dbf");
-        if (m_table == 0)
-            throw std::runtime_error(lastError(m_session).detail);
-    }
-
-    void close() override { d4close(m_table); }
-
-    long find(int id) override
-    {
-        seekId(id);
-        return f4len_v(d4field(m_table, "lastname"));
-    }
-
-    long findLastName(const std::string &name) override
-    {
-        d4tagSelect(m_table, d4tag(m_table, "lastname"));
-        if (d4seek(m_table, name) != r4success)
-            throw std::runtime_error("not found: " + name);
-        return f4long(d4field(m_table, "rowid"));
-    }
-
-    void append(const Customer &customer) override
-    {
-        d4appendStartVB(m_table, 0);
-        d4blank(m_table);
-        f4assignLong(d4field(m_table, "rowid"), customer.id);
-        assign("custno", customer.custno);
-        assign("firstname", customer.firstName);
-        assign("lastname", customer.lastName);
-        assign("company", customer.company);
-        assign("city", customer.city);
-        assign("workphone", customer.phone);
-        f4assignLong(d4field(m_table, "custcat"), customer.category);
-        f4memoAssignN(d4field(m_table, "notes"), customer.notes,
-                      static_cast<std::uint32_t>(customer.notes.size()));
-        d4append(m_table);
-        d4unlock(m_table);
-    }
-
-    void update(int id, int category) override
-    {
-        seekId(id);
-        d4lock(m_table, d4recNo(m_table));
-        f4assignLong(d4field(m_table, "custcat"), category);
-        d4flush(m_table);
-        d4unlock(m_table);
-    }
-
-    void rename(int id, const std::string &lastName) override
-    {
-        seekId(id);
-        d4lock(m_table, d4recNo(m_table));
-        assign("lastname", lastName);
-        d4flush(m_table);
-        d4unlock(m_table);
-    }
-
-    long walkByLastName(int rows) override
-    {
-        d4tagSelect(m_table, d4tag(m_table, "lastname"));
-        return walk(rows);
-    }
-
-    long walkAll() override
-    {
-        d4tagSelect(m_table, 0);
-        return walk(INT32_MAX);
-    }
-
-private:
-    void assign(const char *field, const std::string &text)
-    {
-        f4assignNVB(d4field(m_table, field), text, static_cast<std::uint32_t>(text.size()));
-    }
-
-    void seekId(int id)
-    {
-        d4tagSelect(m_table, d4tag(m_table, "rowid"));
-        if (d4seekDouble(m_table, id) != r4success)
-            throw std::runtime_error("not found: " + std::to_string(id));
-    }
-
-    long walk(int rows)
-    {
-        const Handle id = d4field(m_table, "rowid");
-        long sum = 0;
-        for (Code code = d4top(m_table); code == r4success && rows > 0; --rows) {
-            sum += f4long(id);
-            code = d4skip(m_table, 1);
-        }
-        return sum;
-    }
-
-    std::string m_base;
-    Handle m_session;
-    Handle m_table = 0;
-};
 
 } // namespace
 
-std::unique_ptr<CustomerStore> makeEngineStore(const std::string &folder)
+EngineStore::EngineStore(std::string folder) : m_folder(std::move(folder)), m_session(d4init_v())
+{
+    code4errorHandler(m_session, fail);
+}
+
+void EngineStore::setDurable(bool durable)
+{
+    code4durability(m_session, durable ? "full" : "process");
+}
+
+EngineStore::Use::Use(const EngineStore &store, schema::Table which)
+    : m_table(d4open(store.m_session, store.path(which, "dbf")))
+{
+    if (m_table == 0)
+        fail(lastError(store.m_session));
+}
+
+void EngineStore::Use::assign(const char *name, std::string_view text) const
+{
+    f4assignNVB(field(name), text, static_cast<std::uint32_t>(text.size()));
+}
+
+void EngineStore::Use::assignMemo(const char *name, std::string_view text) const
+{
+    f4memoAssignN(field(name), text, static_cast<std::uint32_t>(text.size()));
+}
+
+void EngineStore::Use::begin() const
+{
+    d4appendStartVB(m_table, 0);
+    d4blank(m_table);
+}
+
+std::string EngineStore::path(schema::Table which, const char *extension) const
+{
+    return m_folder + '/' + schema::table(which).baseName.toStdString() + '.' + extension;
+}
+
+void EngineStore::makeFiles(schema::Table which) const
+{
+    const TablePaths paths{path(which, "dbf"), path(which, "cdx"), path(which, "fpt")};
+    for (const std::string &file : {paths.table, paths.index, paths.memo})
+        std::filesystem::remove(file);
+    if (Status made = createTable(systemFiles(), schema::table(which).def, paths); !made.ok())
+        fail(made.error());
+}
+
+void EngineStore::append(const Use &issues, const Issue &issue)
+{
+    issues.begin();
+    issues.assign("rowid", issue.rowId);
+    issues.assign("custid", issue.custId);
+    issues.assign("psid", issue.psId);
+    issues.assign("shortdesc", issue.shortDesc);
+    issues.assign("custom1", issue.custom1);
+    issues.assign("custom2", issue.custom2);
+    issues.assign("assignedto", issue.assignedTo);
+    issues.assign("priority", issue.priority);
+    issues.assign("status", issue.status);
+    issues.assign("issuecat", issue.category);
+    issues.assign("submitdt", issue.submitted);
+    issues.assign("responsedt", issue.responded);
+    issues.assign("resolvedt", issue.resolved);
+    issues.assignMemo("desc", issue.desc);
+    issues.assignMemo("resolution", issue.resolution);
+    issues.assign("lastmodby", issue.lastModBy);
+    issues.assign("lastmoddt", issue.lastModDate);
+    issues.assign("lastmodtm", issue.lastModTime);
+    issues.assign("underedit", 0);
+    issues.assign("edtstation", issue.station);
+    d4append(issues.table());
+    d4unlock(issues.table());
+}
+
+void EngineStore::load(int rows)
+{
+    makeFiles(schema::Table::Issues);
+    makeFiles(schema::Table::LastID);
+    code4accessMode(m_session, 1);
+    {
+        const int customers = customersFor(rows);
+        const Use issues(*this, schema::Table::Issues);
+        for (int i = 0; i < rows; ++i)
+            append(issues, makeIssue(kFirstId + i, customers));
+        const Use counters(*this, schema::Table::LastID);
+        counters.begin();
+        counters.assign("tblname", kCounterName);
+        counters.assign("lastid", kFirstId + rows);
+        d4append(counters.table());
+        d4unlock(counters.table());
+    }
+    code4accessMode(m_session, 0);
+}
+
+void EngineStore::fill(schema::Table which, const char *field, int count,
+                       std::string (*name)(int)) const
+{
+    makeFiles(which);
+    const Use rows(*this, which);
+    for (int id = kFirstId; id < kFirstId + count; ++id) {
+        rows.begin();
+        rows.assign("rowid", id);
+        rows.assign(field, name(id));
+        d4append(rows.table());
+        d4unlock(rows.table());
+    }
+}
+
+void EngineStore::loadOthers(int customers)
+{
+    code4accessMode(m_session, 1);
+    fill(schema::Table::Customer, "company", customers, companyName);
+    fill(schema::Table::User, "login", kUsers, userName);
+    fill(schema::Table::Category, "desc", kStatuses, statusName);
+    code4accessMode(m_session, 0);
+}
+
+void EngineStore::reindex()
+{
+    code4accessMode(m_session, 1);
+    {
+        const Use issues(*this, schema::Table::Issues);
+        if (d4reindex(issues.table()) != r4success)
+            fail(lastError(m_session));
+    }
+    code4accessMode(m_session, 0);
+}
+
+void EngineStore::fullCheck()
+{
+    const Use issues(*this, schema::Table::Issues);
+    const std::vector<std::string> findings = d4check(issues.table());
+    if (!findings.empty())
+        throw std::runtime_error("the check found: " + findings.front());
+}
+
+std::uint64_t EngineStore::bytes() const
+{
+    std::uint64_t sum = 0;
+    for (const char *extension : {"dbf", "cdx", "fpt"})
+        sum += std::filesystem::file_size(path(schema::Table::Issues, extension));
+    return sum;
+}
+
+long EngineStore::lookupCycle(int rowId)
+{
+    const Use issues(*this, schema::Table::Issues);
+    issues.select("rowid");
+    if (!issues.seek(rowId))
+        throw std::runtime_error("row not found");
+    return f4long(issues.field("custid"));
+}
+
+int EngineStore::nextIdCycle()
+{
+    const Use counters(*this, schema::Table::LastID);
+    if (d4seek(counters.table(), kCounterName) != r4success)
+        throw std::runtime_error("no counter");
+    d4lock(counters.table(), d4recNo(counters.table()));
+    const Handle lastId = counters.field("lastid");
+    const int taken = f4long(lastId);
+    f4assignLong(lastId, taken + 1);
+    d4flush(counters.table());
+    d4unlock(counters.table());
+    return taken;
+}
+
+int EngineStore::insertCycle(int customers)
+{
+    const int taken = nextIdCycle();
+    append(Use(*this, schema::Table::Issues), makeIssue(taken, customers));
+    return taken;
+}
+
+void EngineStore::updateCycle(int rowId, int status)
+{
+    const Use issues(*this, schema::Table::Issues);
+    issues.select("rowid");
+    if (!issues.seek(rowId))
+        throw std::runtime_error("row not found");
+    d4lock(issues.table(), d4recNo(issues.table()));
+    issues.assign("status", status);
+    d4flush(issues.table());
+    d4unlock(issues.table());
+}
+
+std::unique_ptr<Store> makeEngineStore(const std::string &folder)
 {
     return std::make_unique<EngineStore>(folder);
 }

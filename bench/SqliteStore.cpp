@@ -1,9 +1,8 @@
-#include "CustomerStore.h"
+#include "Sqlite.h"
+#include "Store.h"
 
-#include <sqlite3.h>
-
-#include <array>
-#include <stdexcept>
+#include <filesystem>
+#include <optional>
 
 namespace bench
 {
@@ -11,190 +10,277 @@ namespace bench
 namespace
 {
 
-// One prepared statement; values are bound in order.
-class Statement
+constexpr const char *kSchema =
+    "CREATE TABLE issues (rowid INTEGER PRIMARY KEY, custid INTEGER, psid INTEGER, shortdesc TEXT,"
+    " custom1 TEXT, custom2 TEXT, assignedto INTEGER, priority INTEGER, status INTEGER,"
+    " issuecat INTEGER, submitdt TEXT, responsedt TEXT, resolvedt TEXT, desc TEXT,"
+    " resolution TEXT, lastmodby INTEGER, lastmoddt TEXT, lastmodtm TEXT, underedit INTEGER,"
+    " edtstation TEXT);"
+    "CREATE TABLE customers (rowid INTEGER PRIMARY KEY, company TEXT);"
+    "CREATE TABLE users (rowid INTEGER PRIMARY KEY, login TEXT);"
+    "CREATE TABLE categories (rowid INTEGER PRIMARY KEY, desc TEXT);"
+    "CREATE TABLE counters (tblname TEXT PRIMARY KEY, lastid INTEGER);";
+constexpr const char *kInsert =
+    "INSERT INTO issues VALUES (?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?)";
+constexpr const char *kLookup =
+    "SELECT custid, shortdesc, status, submitdt FROM issues WHERE rowid = ?";
+
+void insert(Statement &statement, const Issue &issue)
+{
+    statement.bind(issue.rowId)
+        .bind(issue.custId)
+        .bind(issue.psId)
+        .bind(issue.shortDesc)
+        .bind(issue.custom1)
+        .bind(issue.custom2)
+        .bind(issue.assignedTo)
+        .bind(issue.priority)
+        .bind(issue.status)
+        .bind(issue.category)
+        .bind(issue.submitted)
+        .bind(issue.responded)
+        .bind(issue.resolved)
+        .bind(issue.desc)
+        .bind(issue.resolution)
+        .bind(issue.lastModBy)
+        .bind(issue.lastModDate)
+        .bind(issue.lastModTime)
+        .bind(0)
+        .bind(issue.station)
+        .run();
+}
+
+int takeNumber(const Connection &db)
+{
+    Statement(db, "UPDATE counters SET lastid = lastid + 1 WHERE tblname = 'issues'").run();
+    Statement taken(db, "SELECT lastid FROM counters WHERE tblname = 'issues'");
+    taken.step();
+    return taken.number(0) - 1;
+}
+
+class SqliteStore final : public Store
 {
 public:
-    Statement(sqlite3 *db, const char *sql)
-    {
-        if (sqlite3_prepare_v2(db, sql, -1, &m_statement, nullptr) != SQLITE_OK)
-            throw std::runtime_error(sqlite3_errmsg(db));
-    }
-    ~Statement() { sqlite3_finalize(m_statement); }
-    Statement(const Statement &) = delete;
-    Statement &operator=(const Statement &) = delete;
+    explicit SqliteStore(const std::string &folder) : m_path(folder + "/issues.sqlite") {}
 
-    Statement &bind(int value)
-    {
-        sqlite3_bind_int(m_statement, ++m_bound, value);
-        return *this;
-    }
-    Statement &bind(const std::string &value)
-    {
-        sqlite3_bind_text(m_statement, ++m_bound, value.data(), static_cast<int>(value.size()),
-                          SQLITE_STATIC);
-        return *this;
-    }
-    bool step()
-    {
-        const int code = sqlite3_step(m_statement);
-        if (code != SQLITE_ROW && code != SQLITE_DONE)
-            throw std::runtime_error(sqlite3_errstr(code));
-        return code == SQLITE_ROW;
-    }
-    void run()
-    {
-        step();
-        reset();
-    }
-    void reset()
-    {
-        sqlite3_reset(m_statement);
-        m_bound = 0;
-    }
-    int number(int column) { return sqlite3_column_int(m_statement, column); }
+    void setDurable(bool durable) override { m_durable = durable; }
+
+    void load(int rows) override;
+    void loadOthers(int customers) override;
+    void reindex() override { connection().run("REINDEX"); }
+    void fullCheck() override;
+    std::uint64_t bytes() const override { return std::filesystem::file_size(m_path); }
+
+    long lookupCycle(int rowId) override;
+    int nextIdCycle() override;
+    int insertCycle(int customers) override;
+    void updateCycle(int rowId, int status) override;
+
+    void open() override;
+    void close() override;
+    long lookup(int rowId) override;
+    long walkStatus(int status, std::string_view upTo) override;
+    long walkAssignee(int user) override;
+    long walkCustomer(int custId) override;
+    long containsShort(std::string_view word) override;
+    long containsMemo(std::string_view word) override;
+    std::vector<Row> report(int status) override;
 
 private:
-    sqlite3_stmt *m_statement = nullptr;
-    int m_bound = 0;
-};
+    // Statements that are prepared once while the database is open.
+    struct Prepared {
+        explicit Prepared(const Connection &db) : lookup(db, kLookup), customer(db, byCustomer) {}
+        static constexpr const char *byCustomer =
+            "SELECT rowid, status, shortdesc, submitdt FROM issues WHERE custid = ?";
+        Statement lookup;
+        Statement customer;
+    };
 
-struct Statements {
-    explicit Statements(sqlite3 *database) : db(database) {}
-
-    sqlite3 *db; // before those that need it
-    Statement find{db, "SELECT * FROM customers WHERE rowid = ?"};
-    Statement findName{db, "SELECT * FROM customers WHERE lastname = ? COLLATE NOCASE LIMIT 1"};
-    Statement insert{db, "INSERT INTO customers VALUES (?,?,?,?,?,?,?,?,?)"};
-    Statement update{db, "UPDATE customers SET custcat = ? WHERE rowid = ?"};
-    Statement rename{db, "UPDATE customers SET lastname = ? WHERE rowid = ?"};
-    Statement byName{db, "SELECT * FROM customers ORDER BY lastname COLLATE NOCASE"};
-    Statement all{db, "SELECT * FROM customers"};
-};
-
-class SqliteStore final : public CustomerStore
-{
-public:
-    SqliteStore(const std::string &folder, std::string synchronous)
-        : m_path(folder + "/customers.sqlite"), m_synchronous(std::move(synchronous))
-    {
-    }
-    ~SqliteStore() override
-    {
-        m_statements.reset();
-        sqlite3_close(m_db);
-    }
-    SqliteStore(const SqliteStore &) = delete;
-    SqliteStore &operator=(const SqliteStore &) = delete;
-
-    void fill(int rows) override
-    {
-        connect();
-        run("CREATE TABLE customers (rowid INTEGER PRIMARY KEY, custno TEXT, firstname TEXT,"
-            " lastname TEXT, company TEXT, city TEXT, workphone TEXT, custcat INTEGER,"
-            " notes TEXT)");
-        for (const char *column : {"custno", "lastname", "company", "workphone"})
-            run((std::string("CREATE INDEX by_") + column + " ON customers (" + column +
-                 " COLLATE NOCASE)")
-                    .c_str());
-        m_statements = std::make_unique<Statements>(m_db);
-        run("BEGIN");
-        for (int i = 0; i < rows; ++i)
-            append(makeCustomer(kFirstId + i));
-        run("COMMIT");
-        close();
-    }
-
-    void open() override
-    {
-        connect();
-        m_statements = std::make_unique<Statements>(m_db);
-    }
-
-    void close() override
-    {
-        m_statements.reset();
-        sqlite3_close(m_db);
-        m_db = nullptr;
-    }
-
-    long find(int id) override { return firstNumber(m_statements->find.bind(id)); }
-    long findLastName(const std::string &name) override
-    {
-        return firstNumber(m_statements->findName.bind(name));
-    }
-
-    void append(const Customer &c) override
-    {
-        m_statements->insert.bind(c.id)
-            .bind(c.custno)
-            .bind(c.firstName)
-            .bind(c.lastName)
-            .bind(c.company)
-            .bind(c.city)
-            .bind(c.phone)
-            .bind(c.category)
-            .bind(c.notes)
-            .run();
-    }
-
-    void update(int id, int category) override
-    {
-        m_statements->update.bind(category).bind(id).run();
-    }
-
-    void rename(int id, const std::string &lastName) override
-    {
-        m_statements->rename.bind(lastName).bind(id).run();
-    }
-
-    long walkByLastName(int rows) override { return walk(m_statements->byName, rows); }
-    long walkAll() override { return walk(m_statements->all, INT32_MAX); }
-
-private:
-    void connect()
-    {
-        if (sqlite3_open(m_path.c_str(), &m_db) != SQLITE_OK)
-            throw std::runtime_error(sqlite3_errmsg(m_db));
-        run(("PRAGMA synchronous = " + m_synchronous).c_str());
-    }
-
-    void run(const char *sql)
-    {
-        if (sqlite3_exec(m_db, sql, nullptr, nullptr, nullptr) != SQLITE_OK)
-            throw std::runtime_error(sqlite3_errmsg(m_db));
-    }
-
-    static long firstNumber(Statement &statement)
-    {
-        if (!statement.step())
-            throw std::runtime_error("row not found");
-        const long number = statement.number(0);
-        statement.reset();
-        return number;
-    }
-
-    static long walk(Statement &statement, int rows)
-    {
-        long sum = 0;
-        while (rows-- > 0 && statement.step())
-            sum += statement.number(0);
-        statement.reset();
-        return sum;
-    }
+    Connection connection() const { return {m_path, m_durable}; }
+    static long walk(Statement &statement);
 
     std::string m_path;
-    std::string m_synchronous;
-    sqlite3 *m_db = nullptr;
-    std::unique_ptr<Statements> m_statements;
+    bool m_durable = false;
+    std::optional<Connection> m_db;
+    std::optional<Prepared> m_prepared;
 };
+
+void SqliteStore::load(int rows)
+{
+    std::filesystem::remove(m_path);
+    const Connection db = connection();
+    db.run(kSchema);
+    for (const std::string column :
+         {"custid", "psid", "assignedto", "priority", "status", "issuecat", "submitdt"})
+        db.run("CREATE INDEX by_" + column + " ON issues (" + column + ")");
+    db.run("BEGIN");
+    {
+        const int customers = customersFor(rows);
+        Statement statement(db, kInsert);
+        for (int i = 0; i < rows; ++i)
+            insert(statement, makeIssue(kFirstId + i, customers));
+        Statement counter(db, "INSERT INTO counters VALUES ('issues', ?)");
+        counter.bind(kFirstId + rows).run();
+    }
+    db.run("COMMIT");
+}
+
+void SqliteStore::loadOthers(int customers)
+{
+    const Connection db = connection();
+    db.run("BEGIN");
+    const auto fill = [&](const char *sql, int count, std::string (*name)(int)) {
+        Statement statement(db, sql);
+        for (int id = kFirstId; id < kFirstId + count; ++id) {
+            const std::string text = name(id);
+            statement.bind(id).bind(text).run();
+        }
+    };
+    fill("INSERT INTO customers VALUES (?,?)", customers, companyName);
+    fill("INSERT INTO users VALUES (?,?)", kUsers, userName);
+    fill("INSERT INTO categories VALUES (?,?)", kStatuses, statusName);
+    db.run("COMMIT");
+}
+
+void SqliteStore::fullCheck()
+{
+    const Connection db = connection();
+    Statement check(db, "PRAGMA integrity_check");
+    if (!check.step() || check.text(0) != "ok")
+        throw std::runtime_error("SQLite finds its file damaged");
+}
+
+long SqliteStore::lookupCycle(int rowId)
+{
+    const Connection db = connection();
+    Statement statement(db, kLookup);
+    if (!statement.bind(rowId).step())
+        throw std::runtime_error("row not found");
+    return statement.number(0);
+}
+
+int SqliteStore::nextIdCycle()
+{
+    const Connection db = connection();
+    db.run("BEGIN IMMEDIATE");
+    const int taken = takeNumber(db);
+    db.run("COMMIT");
+    return taken;
+}
+
+int SqliteStore::insertCycle(int customers)
+{
+    const Connection db = connection();
+    db.run("BEGIN IMMEDIATE");
+    const int taken = takeNumber(db);
+    Statement statement(db, kInsert);
+    insert(statement, makeIssue(taken, customers));
+    db.run("COMMIT");
+    return taken;
+}
+
+void SqliteStore::updateCycle(int rowId, int status)
+{
+    const Connection db = connection();
+    Statement statement(db, "UPDATE issues SET status = ? WHERE rowid = ?");
+    statement.bind(status).bind(rowId).run();
+}
+
+void SqliteStore::open()
+{
+    m_db.emplace(m_path, m_durable);
+    m_prepared.emplace(*m_db);
+}
+
+void SqliteStore::close()
+{
+    m_prepared.reset();
+    m_db.reset();
+}
+
+long SqliteStore::lookup(int rowId)
+{
+    Statement &statement = m_prepared->lookup;
+    if (!statement.bind(rowId).step())
+        throw std::runtime_error("row not found");
+    const long found = statement.number(0) + static_cast<long>(statement.text(1).size());
+    statement.reset();
+    return found;
+}
+
+// Looks at two numbers and two texts of every row; how many rows there were.
+long SqliteStore::walk(Statement &statement)
+{
+    long rows = 0;
+    long seen = 0;
+    for (; statement.step(); ++rows) {
+        seen += statement.number(0) + statement.number(1);
+        seen += static_cast<long>(statement.text(2).size() + statement.text(3).size());
+    }
+    statement.reset();
+    return seen > 0 ? rows : 0;
+}
+
+long SqliteStore::walkStatus(int status, std::string_view upTo)
+{
+    Statement statement(*m_db, "SELECT rowid, custid, shortdesc, submitdt FROM issues"
+                               " WHERE status = ? AND submitdt <= ?");
+    return walk(statement.bind(status).bind(upTo));
+}
+
+long SqliteStore::walkAssignee(int user)
+{
+    Statement statement(*m_db, "SELECT rowid, custid, shortdesc, submitdt FROM issues"
+                               " WHERE assignedto = ?");
+    return walk(statement.bind(user));
+}
+
+long SqliteStore::walkCustomer(int custId)
+{
+    return walk(m_prepared->customer.bind(custId));
+}
+
+long SqliteStore::containsShort(std::string_view word)
+{
+    const std::string pattern = '%' + std::string(word) + '%';
+    Statement statement(*m_db, "SELECT count(*) FROM issues WHERE shortdesc LIKE ?");
+    statement.bind(pattern).step();
+    return statement.number(0);
+}
+
+long SqliteStore::containsMemo(std::string_view word)
+{
+    const std::string pattern = '%' + std::string(word) + '%';
+    Statement statement(*m_db, "SELECT count(*) FROM issues WHERE desc LIKE ?1"
+                               " OR resolution LIKE ?1");
+    statement.bind(pattern).step();
+    return statement.number(0);
+}
+
+std::vector<Store::Row> SqliteStore::report(int status)
+{
+    Statement statement(*m_db,
+                        "SELECT i.rowid, c.company, i.shortdesc, u.login, k.desc, i.priority,"
+                        " i.submitdt, i.resolvedt FROM issues i"
+                        " LEFT JOIN customers c ON c.rowid = i.custid"
+                        " LEFT JOIN users u ON u.rowid = i.assignedto"
+                        " LEFT JOIN categories k ON k.rowid = i.status"
+                        " WHERE i.status = ? ORDER BY i.shortdesc COLLATE NOCASE");
+    statement.bind(status);
+    std::vector<Row> rows;
+    while (statement.step()) {
+        Row &row = rows.emplace_back();
+        for (int column = 0; column < 8; ++column)
+            row.emplace_back(statement.text(column));
+    }
+    return rows;
+}
 
 } // namespace
 
-std::unique_ptr<CustomerStore> makeSqliteStore(const std::string &folder,
-                                               const std::string &synchronous)
+std::unique_ptr<Store> makeSqliteStore(const std::string &folder)
 {
-    return std::make_unique<SqliteStore>(folder, synchronous);
+    return std::make_unique<SqliteStore>(folder);
 }
 
 } // namespace bench
