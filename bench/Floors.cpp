@@ -265,7 +265,7 @@ double Floors::counter(bool durable) const
 {
     const std::string path = m_folder + "/floor.counter";
     RawFile(path).write(0, "0000", 4);
-    const double each = twoProcesses(2000, [&](int count) {
+    const double each = twoProcesses(durable ? 300 : 2000, [&](int count) {
         for (int i = 0; i < count; ++i) {
             const RawFile file(path);
             file.lock(F_WRLCK);

@@ -15,6 +15,7 @@ constexpr int kLookups = 20000;
 constexpr int kLookupCycles = 2000;
 constexpr int kSaves = 300;
 constexpr int kCounts = 1000;
+constexpr int kDurableCounts = 300;
 constexpr int kMostCustomers = 10000; // walked
 constexpr int kOneStatus = kFirstId + 3;
 constexpr int kOneUser = kFirstId + 7;
@@ -90,7 +91,7 @@ Measured counterOfTwo(Store &store, const Ground &ground, bool durable)
 {
     const int before = store.nextIdCycle();
     const bool isOurs = &store == ground.ours.get();
-    const double each = twoProcesses(kCounts, [&](int count) {
+    const double each = twoProcesses(durable ? kDurableCounts : kCounts, [&](int count) {
         const std::unique_ptr<Store> own =
             isOurs ? makeEngineStore(ground.ourFolder) : makeSqliteStore(ground.sqliteFolder);
         own->setDurable(durable);

@@ -1,0 +1,51 @@
+#!/usr/bin/env bash
+# Builds the fuzz targets and runs each for SECONDS, as many at once as there are cores:
+#   tests/fuzz/run.sh SECONDS [TARGET...]
+# Fails when one finds something; the input is then in build/fuzz/findings. New inputs are kept in
+# build/fuzz/corpus, tests/fuzz/corpus is only read.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/../.."
+
+seconds=${1:?usage: tests/fuzz/run.sh SECONDS [TARGET...]}
+shift
+targets=("$@")
+if [ ${#targets[@]} -eq 0 ]; then
+    for source in tests/fuzz/fuzz_*.cpp; do
+        name=${source##*/fuzz_}
+        targets+=("${name%.cpp}")
+    done
+fi
+
+[ -f build/fuzz/build.ninja ] || cmake --preset fuzz
+cmake --build build/fuzz --target "${targets[@]/#/fuzz_}"
+mkdir -p build/fuzz/findings build/fuzz/logs
+
+run_one() {
+    local target=$1
+    mkdir -p "build/fuzz/corpus/$target"
+    # Freed memory is not held back for long, so that the limit is the program's own.
+    ASAN_OPTIONS=quarantine_size_mb=4:allocator_may_return_null=1 \
+    UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
+        "build/fuzz/bin/fuzz_$target" -max_total_time="$2" -max_len=65536 -timeout=10 \
+        -malloc_limit_mb=64 -rss_limit_mb=128 -print_final_stats=1 -verbosity=1 \
+        -artifact_prefix="build/fuzz/findings/$target-" \
+        "build/fuzz/corpus/$target" "tests/fuzz/corpus/$target" >"build/fuzz/logs/$target" 2>&1
+}
+export -f run_one
+
+printf '%s\n' "${targets[@]}" | xargs -P "$(nproc)" -I{} bash -c 'run_one {} '"$seconds"' || touch build/fuzz/logs/{}.failed'
+
+failed=0
+for target in "${targets[@]}"; do
+    if [ -e "build/fuzz/logs/$target.failed" ]; then
+        rm "build/fuzz/logs/$target.failed"
+        failed=1
+        echo "fuzz_$target found something:"
+        tail -n 60 "build/fuzz/logs/$target"
+    else
+        rate=$(sed -n 's/^stat::average_exec_per_sec: *//p' "build/fuzz/logs/$target")
+        memory=$(sed -n 's/^stat::peak_rss_mb: *//p' "build/fuzz/logs/$target")
+        echo "fuzz_$target: nothing in $seconds s, $rate runs a second, $memory MB"
+    fi
+done
+exit $failed
