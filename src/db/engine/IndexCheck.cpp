@@ -78,16 +78,37 @@ private:
         std::size_t hash;
     };
 
+    void placeByRecord(std::size_t most);
+
     std::vector<Item> m_items;
     std::vector<std::size_t> m_hashes; // sorted, made when first asked for
     std::size_t m_next = 0;            // rows mostly come in record order
 };
 
+// Counting instead of comparing: record numbers are nearly all there.
+void HeldKeys::placeByRecord(std::size_t most)
+{
+    std::vector<std::uint32_t> starts(most + 2);
+    for (const Item &item : m_items)
+        ++starts[item.record + std::size_t{1}];
+    for (std::size_t i = 1; i < starts.size(); ++i)
+        starts[i] += starts[i - 1];
+    std::vector<Item> placed(m_items.size());
+    for (const Item &item : m_items)
+        placed[starts[item.record]++] = item;
+    m_items = std::move(placed);
+}
+
 std::uint32_t HeldKeys::sort()
 {
     const auto byRecord = [](const Item &a, const Item &b) { return a.record < b.record; };
-    if (!std::is_sorted(m_items.begin(), m_items.end(), byRecord))
-        std::sort(m_items.begin(), m_items.end(), byRecord);
+    if (!std::is_sorted(m_items.begin(), m_items.end(), byRecord)) {
+        const std::size_t most = std::max_element(m_items.begin(), m_items.end(), byRecord)->record;
+        if (most / 4 <= m_items.size()) // a wild number in a damaged page would take much memory
+            placeByRecord(most);
+        else
+            std::sort(m_items.begin(), m_items.end(), byRecord);
+    }
     const auto twice =
         std::adjacent_find(m_items.begin(), m_items.end(),
                            [](const Item &a, const Item &b) { return a.record == b.record; });
