@@ -4,6 +4,7 @@
 #include "common/base/clsSystem.h"
 #include "common/base/Failure.h"
 #include "common/base/Host.h"
+#include "common/base/Preferences.h"
 #include "common/base/Prompts.h"
 #include "db/Screens.h"
 
@@ -16,6 +17,8 @@ namespace
 
 // A wait for a lock shorter than this needs no repainted window.
 constexpr std::chrono::milliseconds QuietWait{500};
+// "process": a save survives a killed program but no power cut; for slow shares.
+const QString DurabilityPref = QStringLiteral("durability");
 
 } // namespace
 
@@ -34,6 +37,7 @@ bool clsDB::startSession(const QString &dir)
         code4lockAttempts(m_hSession, -1);
         code4lockEnforce(m_hSession, 1);
         code4lockDelay(m_hSession, 100);
+        code4durability(m_hSession, GetPrefStr(DurabilityPref).toStdString());
         code4errorHandler(m_hSession, [this](const Error &error) { m_failures.note(error); });
         code4waitHandler(m_hSession, [](std::chrono::milliseconds waited) {
             if (waited > QuietWait && host().repaint)

@@ -2,6 +2,7 @@
 
 #include "engine/TableFixture.h"
 
+#include <iostream>
 #include <map>
 #include <random>
 
@@ -177,6 +178,32 @@ std::string takeIds(Handle session, const std::string &path, int count)
             return "number " + std::to_string(last) + " came twice";
     }
     return std::to_string(first) + ' ' + std::to_string(last);
+}
+
+std::string saveAndTell(Handle session, const std::string &path, int first)
+{
+    for (int id = first;; ++id) {
+        const Handle table = d4open(session, path);
+        if (table == 0)
+            return "not opened: " + lastError(session).detail;
+        std::string name = "Name " + std::to_string(id);
+        if (addPerson(table, id, name, "note " + name) != r4success)
+            return "not added: " + lastError(session).detail;
+        std::cout << id << ' ' << name << std::endl;
+        if (id % 3 == 0) {
+            name = "Other " + std::to_string(id);
+            if (findPerson(table, id) != r4success)
+                return "row " + std::to_string(id) + " is not found after its store";
+            d4lock(table, d4recNo(table));
+            assign(table, "name", name);
+            assignMemo(table, "notes", "note " + name);
+            if (d4flush(table) != r4success)
+                return "not changed: " + lastError(session).detail;
+            std::cout << id << ' ' << name << std::endl;
+            d4unlock(table);
+        }
+        d4close(table);
+    }
 }
 
 std::string churn(Handle session, const std::string &path, int seed, int count)

@@ -16,4 +16,8 @@ std::string takeIds(norvane::engine::Handle session, const std::string &path, in
 // on, each checked at once: what was stored must be found again. "ok", or what went wrong.
 std::string churn(norvane::engine::Handle session, const std::string &path, int seed, int count);
 
+// Saves people from number `first` on, for ever, every third a second time with another name, and
+// tells each save on standard output once it is reported as done. Gives what went wrong.
+std::string saveAndTell(norvane::engine::Handle session, const std::string &path, int first);
+
 } // namespace enginetest

@@ -98,4 +98,15 @@ Status FaultyFiles::remove(const std::string &path)
     return systemFiles().remove(path);
 }
 
+Status FaultyFiles::syncFolderOf(const std::string &path)
+{
+    ++m_calls;
+    return systemFiles().syncFolderOf(path);
+}
+
+std::uint64_t FaultyFiles::bootMark()
+{
+    return systemFiles().bootMark();
+}
+
 } // namespace enginetest

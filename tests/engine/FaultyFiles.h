@@ -22,6 +22,8 @@ public:
     norvane::engine::Result<std::string> findIgnoringCase(const std::string &path) override;
     norvane::engine::Status rename(const std::string &from, const std::string &to) override;
     norvane::engine::Status remove(const std::string &path) override;
+    norvane::engine::Status syncFolderOf(const std::string &path) override;
+    std::uint64_t bootMark() override;
 
 private:
     friend class FaultyFile;

@@ -72,6 +72,22 @@ std::string Station::answer()
     return line;
 }
 
+std::vector<std::string> Station::lastWords()
+{
+    std::string all;
+    char buffer[4096];
+    for (ssize_t n = 0; (n = ::read(m_out, buffer, sizeof buffer)) != 0;) {
+        if (n > 0)
+            all.append(buffer, static_cast<std::size_t>(n));
+        else if (errno != EINTR)
+            break;
+    }
+    std::vector<std::string> lines;
+    for (std::size_t at = 0, end = 0; (end = all.find('\n', at)) != std::string::npos; at = end + 1)
+        lines.push_back(all.substr(at, end - at));
+    return lines;
+}
+
 void Station::kill()
 {
     ::kill(m_process, SIGKILL);

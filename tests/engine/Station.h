@@ -4,6 +4,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include <sys/types.h>
 
@@ -23,6 +24,8 @@ public:
     void tell(std::string_view command);
     std::string answer();
     void kill(); // as a crash would
+    // What it still wrote before it was killed, line by line.
+    std::vector<std::string> lastWords();
 
 private:
     pid_t m_process = -1;

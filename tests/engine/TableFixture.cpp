@@ -77,6 +77,7 @@ void makeTable(const std::string &dbfPath, const TableDef &table)
 TestSession::TestSession(int attempts, int hundredths) : m_handle(d4init_v())
 {
     code4lockAttempts(m_handle, attempts);
+    code4durability(m_handle, "process"); // what survives a power cut is shown on SimDisk
     code4lockDelay(m_handle, hundredths);
     code4lockEnforce(m_handle, 1);
     code4errorHandler(m_handle, [this](const Error &error) { m_errors.push_back(error); });

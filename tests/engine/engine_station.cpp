@@ -10,6 +10,7 @@
 //   setmemo FIELD TEXT  ok or the error lock N | unlock     code
 //   flush | delete      code            begin | append      code
 //   ids PATH N          the first and last of N numbers taken from a counter table
+//   ack PATH SEED       people one after the other for ever, a line "ID NAME" each when it is saved
 //   churn PATH SEED N   N random inserts, updates and deletes in a table of people
 #include "engine/Churn.h"
 #include "engine/TableFixture.h"
@@ -118,6 +119,10 @@ std::string setUp(Workstation &own, const std::string &verb, std::istringstream 
     if (verb == "ids") {
         line >> path >> first;
         return takeIds(own.session, path, first);
+    }
+    if (verb == "ack") {
+        line >> path >> first;
+        return saveAndTell(own.session, path, first);
     }
     if (verb == "churn") {
         line >> path >> first >> second;

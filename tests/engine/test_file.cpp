@@ -3,7 +3,6 @@
 #include "db/engine/File.h"
 #include "db/engine/LockedFile.h"
 #include "db/engine/LockPlaces.h"
-#include "db/engine/UndoFile.h"
 
 #include <gtest/gtest.h>
 
@@ -105,23 +104,6 @@ TEST_F(Files, CountedLocksGoWithTheLastOfThem)
     EXPECT_TRUE(ours.unlock(7, LockMode::Shared).ok());
     EXPECT_TRUE(free(LockMode::Exclusive));
     EXPECT_TRUE(ours.unlock(7, LockMode::Shared).ok()); // one too many is nothing
-}
-
-TEST_F(Files, RecordedWritesCanBeTakenBack)
-{
-    writeFile(m_path, {'a', 'b', 'c', 'd'});
-    UndoFile file(open());
-    file.begin();
-    ASSERT_TRUE(file.write(1, asBytes("XY")).ok());
-    ASSERT_TRUE(file.write(2, asBytes("ZZZZ")).ok());
-    ASSERT_TRUE(file.write(20, asBytes("far")).ok());
-    ASSERT_TRUE(file.undo().ok());
-    EXPECT_EQ(content(), "abcd");
-    file.begin();
-    ASSERT_TRUE(file.write(0, asBytes("new")).ok());
-    file.keep();
-    ASSERT_TRUE(file.undo().ok());
-    EXPECT_EQ(content(), "newd");
 }
 
 TEST(LockPlaces, NoRowReachesItsOwnLocks)

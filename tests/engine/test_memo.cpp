@@ -1,6 +1,5 @@
 #include "engine/TableFixture.h"
 
-#include "db/engine/LockPlaces.h"
 #include "db/engine/MemoFile.h"
 
 #include <gtest/gtest.h>
@@ -29,9 +28,15 @@ protected:
     }
     std::vector<std::uint32_t> add(const std::vector<std::string_view> &texts)
     {
-        const auto blocks = m_memo->append(texts, {1, std::chrono::milliseconds(1), {}}, false);
-        EXPECT_TRUE(blocks.ok()) << blocks.error().detail;
-        return blocks.ok() ? *blocks : std::vector<std::uint32_t>();
+        const auto placed = m_memo->place(texts);
+        EXPECT_TRUE(placed.ok()) << placed.error().detail;
+        if (!placed.ok())
+            return {};
+        Bytes head(4);
+        putBe32(head.data(), placed->next);
+        EXPECT_TRUE(m_memo->file().write(placed->offset, placed->bytes).ok());
+        EXPECT_TRUE(m_memo->file().write(0, head).ok());
+        return placed->blocks;
     }
     std::string textAt(std::uint32_t block)
     {
@@ -98,17 +103,6 @@ TEST_F(Memos, PointersToNoTextAreDamage)
     putBe32(&bytes[512], 0); // a picture
     writeFile(m_path, bytes);
     EXPECT_EQ(m_memo->read(8).error().kind, ErrorKind::Damaged);
-}
-
-TEST_F(Memos, AllocationWaitsForTheMemoLock)
-{
-    const auto other = std::move(*systemFiles().open(m_path, OpenMode::ReadWrite));
-    ASSERT_TRUE(other->tryLock(kLockByte, 1, LockMode::Exclusive).ok());
-    const auto refused = m_memo->append({"text"}, {2, std::chrono::milliseconds(5), {}}, false);
-    EXPECT_EQ(refused.error().kind, ErrorKind::Locked);
-    ASSERT_TRUE(other->unlock(kLockByte, 1).ok());
-    EXPECT_EQ(add({"text"})[0], 8U);
-    EXPECT_TRUE(other->tryLock(kLockByte, 1, LockMode::Exclusive).ok()); // given back
 }
 
 } // namespace

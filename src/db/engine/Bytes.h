@@ -25,6 +25,11 @@ inline std::uint32_t getLe32(const Byte *p)
            std::uint32_t{p[3]} << 24;
 }
 
+inline std::uint64_t getLe64(const Byte *p)
+{
+    return getLe32(p) | std::uint64_t{getLe32(p + 4)} << 32;
+}
+
 inline std::uint32_t getBe32(const Byte *p)
 {
     return std::uint32_t{p[3]} | std::uint32_t{p[2]} << 8 | std::uint32_t{p[1]} << 16 |
@@ -46,6 +51,12 @@ inline void putLe32(Byte *p, std::uint32_t v)
 {
     for (int i = 0; i < 4; ++i)
         p[i] = static_cast<Byte>(v >> (8 * i));
+}
+
+inline void putLe64(Byte *p, std::uint64_t v)
+{
+    putLe32(p, static_cast<std::uint32_t>(v));
+    putLe32(p + 4, static_cast<std::uint32_t>(v >> 32));
 }
 
 inline void putBe32(Byte *p, std::uint32_t v)

@@ -64,6 +64,12 @@ void code4errTagName(Handle session, int flag)
         found->settings.reportTagNames = flag != 0;
 }
 
+void code4durability(Handle session, std::string_view setting)
+{
+    if (Session *found = handleRegistry().session(session))
+        found->settings.durability = setting == "process" ? Durability::Process : Durability::Full;
+}
+
 Code code4errorCode(Handle session, int value)
 {
     Session *found = handleRegistry().session(session);

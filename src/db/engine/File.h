@@ -39,6 +39,8 @@ public:
 
     virtual const std::string &path() const = 0;
     virtual bool readOnly() const = 0;
+    // True on a network folder: others see what was written once it was synced under the lock.
+    virtual bool onNetwork() { return false; }
 };
 
 class FileSystem
@@ -52,6 +54,10 @@ public:
     virtual Result<std::string> findIgnoringCase(const std::string &path) = 0;
     virtual Status rename(const std::string &from, const std::string &to) = 0;
     virtual Status remove(const std::string &path) = 0;
+    // Puts the name of a file just made on the medium.
+    virtual Status syncFolderOf(const std::string & /*path*/) { return {}; }
+    // A number that changes whenever this machine starts; 0 when there is none to be had.
+    virtual std::uint64_t bootMark() { return 0; }
 };
 
 // The real files of this machine; lives for ever.

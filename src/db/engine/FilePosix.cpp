@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <cstring>
 #include <filesystem>
+#include <fstream>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -158,15 +159,20 @@ public:
     {
         if (!m_unsynced)
             return setLock(offset, length, F_UNLCK);
-        if (m_network == Network::NotAsked)
-            m_network = liesOnNetwork(m_descriptor) ? Network::Yes : Network::No;
-        const Status synced = m_network == Network::Yes ? sync() : Status();
+        const Status synced = onNetwork() ? sync() : Status();
         Status unlocked = setLock(offset, length, F_UNLCK);
         return synced.ok() ? unlocked : synced;
     }
 
     const std::string &path() const override { return m_path; }
     bool readOnly() const override { return m_readOnly; }
+
+    bool onNetwork() override
+    {
+        if (m_network == Network::NotAsked)
+            m_network = liesOnNetwork(m_descriptor) ? Network::Yes : Network::No;
+        return m_network == Network::Yes;
+    }
 
 private:
     enum class Network { NotAsked, No, Yes };
@@ -211,7 +217,7 @@ bool sameButForCase(std::string_view a, std::string_view b)
                       [](char x, char y) { return lower(x) == lower(y); });
 }
 
-void syncFolderOf(const std::string &path)
+void syncFolder(const std::string &path)
 {
     const std::filesystem::path parent = std::filesystem::path(path).parent_path();
     const std::filesystem::path folder = parent.empty() ? std::filesystem::path(".") : parent;
@@ -220,6 +226,19 @@ void syncFolderOf(const std::string &path)
         return;
     ::fsync(descriptor); // not every file system can; the rename itself has happened
     ::close(descriptor);
+}
+
+// A digest of the identifier that the kernel draws at each start.
+std::uint64_t readBootMark()
+{
+    std::ifstream file("/proc/sys/kernel/random/boot_id");
+    std::string text;
+    if (!std::getline(file, text) || text.empty())
+        return 0;
+    std::uint64_t mark = 0xCBF29CE484222325U;
+    for (const char c : text)
+        mark = (mark ^ static_cast<unsigned char>(c)) * 0x100000001B3U;
+    return mark;
 }
 
 class PosixFileSystem final : public FileSystem
@@ -269,7 +288,7 @@ public:
     {
         if (::rename(from.c_str(), to.c_str()) != 0)
             return systemError(errno, from, "rename");
-        syncFolderOf(to);
+        syncFolder(to);
         return {};
     }
 
@@ -278,6 +297,18 @@ public:
         if (::unlink(path.c_str()) != 0)
             return systemError(errno, path, "remove");
         return {};
+    }
+
+    Status syncFolderOf(const std::string &path) override
+    {
+        syncFolder(path);
+        return {};
+    }
+
+    std::uint64_t bootMark() override
+    {
+        static const std::uint64_t mark = readBootMark();
+        return mark;
     }
 };
 

@@ -334,9 +334,30 @@ Status IndexFile::commit()
     return m_impl->pages.commit();
 }
 
+void IndexFile::noteWritten(const std::vector<PageChange> &list)
+{
+    m_impl->pages.written(list);
+}
+
 void IndexFile::discard()
 {
     m_impl->pages.discard();
+}
+
+void IndexFile::distrust()
+{
+    m_impl->pages.distrust();
+}
+
+bool IndexFile::laidOutLike(const IndexFile &other) const
+{
+    const auto same = [](const IndexTag &a, const IndexTag &b) {
+        return a.header == b.header && a.shape.root == b.shape.root &&
+               a.shape.keyLength == b.shape.keyLength;
+    };
+    return m_impl->directory.root == other.m_impl->directory.root &&
+           std::equal(m_impl->tags.begin(), m_impl->tags.end(), other.m_impl->tags.begin(),
+                      other.m_impl->tags.end(), same);
 }
 
 } // namespace norvane::engine

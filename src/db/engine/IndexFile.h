@@ -83,7 +83,13 @@ public:
     // Writes changed pages (children before parents, change counter last). When that fails, the
     // pages are read anew after the next refresh(), whatever of them reached the file.
     Status commit();
+    // The caller has written what changes() gave.
+    void noteWritten(const std::vector<PageChange> &list);
     void discard();
+    // Makes the next refresh() read everything again.
+    void distrust();
+    // True when header pages and roots of all tags stand at the same places.
+    bool laidOutLike(const IndexFile &other) const;
 
 private:
     friend Result<std::vector<std::string>> checkIndex(IndexFile &index, const RowSource &rows);

@@ -245,11 +245,19 @@ Status IndexPages::commit()
         return {};
     const std::vector<PageChange> list = changes();
     for (const PageChange &change : list) {
-        if (Status written = m_file->write(change.offset, change.bytes); !written.ok()) {
+        if (Status status = m_file->write(change.offset, change.bytes); !status.ok()) {
             forget();
-            return written;
+            return status;
         }
     }
+    written(list);
+    return {};
+}
+
+void IndexPages::written(const std::vector<PageChange> &list)
+{
+    if (list.empty())
+        return;
     std::copy(list.back().bytes.begin(), list.back().bytes.end(), m_header.begin());
     for (const std::uint32_t offset : m_dirty) {
         IndexPage &page = *m_pages.at(offset);
@@ -259,7 +267,6 @@ Status IndexPages::commit()
     m_committedSize = m_size;
     m_committedFreeHead = m_freeHead;
     m_front.clear(); // older than the pages just written
-    return {};
 }
 
 void IndexPages::discard()

@@ -57,6 +57,8 @@ public:
     std::vector<PageChange> changes() const;
     // Writes changes(). When that fails everything cached is forgotten and read again later.
     Status commit();
+    // The caller has written `list`, which changes() gave.
+    void written(const std::vector<PageChange> &list);
     void discard();
 
     Error damaged(std::string detail, std::uint64_t place) const;

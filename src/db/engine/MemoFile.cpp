@@ -36,7 +36,7 @@ Status MemoFile::readBlockSize()
     if (m_blockSize != 0)
         return {};
     std::array<Byte, 8> start;
-    const Result<std::size_t> got = m_file.file().read(0, start);
+    const Result<std::size_t> got = m_file->read(0, start);
     if (!got.ok())
         return got.error();
     if (*got < start.size() || getBe16(&start[6]) == 0)
@@ -68,12 +68,12 @@ Result<std::string> MemoFile::read(std::uint32_t block)
     // Most texts are short: one read brings head and text.
     const std::uint64_t at = std::uint64_t{block} * m_blockSize;
     std::array<Byte, 2048> start;
-    const Result<std::size_t> got = m_file.file().read(at, start);
+    const Result<std::size_t> got = m_file->read(at, start);
     if (!got.ok())
         return got.error();
     std::uint64_t known = at + *got;
     if (*got == start.size()) {
-        const Result<std::uint64_t> size = m_file.file().size();
+        const Result<std::uint64_t> size = m_file->size();
         if (!size.ok())
             return size.error();
         known = *size;
@@ -87,7 +87,7 @@ Result<std::string> MemoFile::read(std::uint32_t block)
     std::copy_n(start.begin() + kBlockHead, here, text.begin());
     if (here < text.size()) {
         const ByteSpan rest(reinterpret_cast<Byte *>(text.data()) + here, text.size() - here);
-        const Result<std::size_t> more = m_file.file().read(at + kBlockHead + here, rest);
+        const Result<std::size_t> more = m_file->read(at + kBlockHead + here, rest);
         if (!more.ok())
             return more.error();
         if (*more < rest.size())
@@ -97,28 +97,11 @@ Result<std::string> MemoFile::read(std::uint32_t block)
     return text;
 }
 
-Result<std::vector<std::uint32_t>> MemoFile::append(const std::vector<std::string_view> &texts,
-                                                    const LockPatience &patience, bool exclusive)
+Result<MemoFile::Placed> MemoFile::place(const std::vector<std::string_view> &texts)
 {
     if (Status status = readBlockSize(); !status.ok())
         return status.error();
-    if (exclusive)
-        return place(texts);
-    const Status locked = waitForLock(patience, LockPace::Brief, [this] {
-        return m_file.tryLock(kLockByte, LockMode::Exclusive);
-    });
-    if (!locked.ok())
-        return locked.error();
-    Result<std::vector<std::uint32_t>> blocks = place(texts);
-    const Status unlocked = m_file.unlock(kLockByte, LockMode::Exclusive);
-    if (blocks.ok() && !unlocked.ok())
-        return unlocked.error();
-    return blocks;
-}
-
-Result<std::vector<std::uint32_t>> MemoFile::place(const std::vector<std::string_view> &texts)
-{
-    const Result<std::uint64_t> size = m_file.file().size();
+    const Result<std::uint64_t> size = m_file->size();
     if (!size.ok())
         return size.error();
     if (*size < kHeader)
@@ -126,30 +109,24 @@ Result<std::vector<std::uint32_t>> MemoFile::place(const std::vector<std::string
     // The end of the file is the truth; a header number that lags or runs away is put right.
     const std::uint64_t start = blocksFor(*size);
     std::uint64_t next = start;
-    std::vector<std::uint32_t> blocks;
+    Placed placed;
     for (const std::string_view text : texts) {
-        blocks.push_back(static_cast<std::uint32_t>(next));
+        placed.blocks.push_back(static_cast<std::uint32_t>(next));
         next += blocksFor(kBlockHead + text.size());
     }
     if (next * m_blockSize >= kLockByte)
         return Error{ErrorKind::TooLarge, path(), "the memo file is full"};
 
-    std::vector<Byte> bytes((next - start) * m_blockSize);
+    placed.next = static_cast<std::uint32_t>(next);
+    placed.offset = start * m_blockSize;
+    placed.bytes.resize((next - start) * m_blockSize);
     for (std::size_t i = 0; i < texts.size(); ++i) {
-        Byte *at = bytes.data() + (blocks[i] - start) * m_blockSize;
+        Byte *at = placed.bytes.data() + (placed.blocks[i] - start) * m_blockSize;
         putBe32(at, kTextKind);
         putBe32(at + 4, static_cast<std::uint32_t>(texts[i].size()));
         std::copy(texts[i].begin(), texts[i].end(), at + kBlockHead);
     }
-    if (Status status = m_file.file().write(start * m_blockSize, bytes); !status.ok()) {
-        (void)m_file.file().resize(*size); // room again on a full disk
-        return status.error();
-    }
-    std::array<Byte, 4> head;
-    putBe32(head.data(), static_cast<std::uint32_t>(next));
-    if (Status status = m_file.file().write(0, head); !status.ok())
-        return status.error();
-    return blocks;
+    return placed;
 }
 
 Result<MemoFile::Extent> MemoFile::extentOf(std::uint32_t block)
@@ -157,10 +134,10 @@ Result<MemoFile::Extent> MemoFile::extentOf(std::uint32_t block)
     if (Status status = readBlockSize(); !status.ok())
         return status.error();
     std::array<Byte, kBlockHead> head;
-    const Result<std::size_t> got = m_file.file().read(std::uint64_t{block} * m_blockSize, head);
+    const Result<std::size_t> got = m_file->read(std::uint64_t{block} * m_blockSize, head);
     if (!got.ok())
         return got.error();
-    const Result<std::uint64_t> size = m_file.file().size();
+    const Result<std::uint64_t> size = m_file->size();
     if (!size.ok())
         return size.error();
     const Result<std::uint32_t> length = blockLength(block, ByteView(head).first(*got), *size);
@@ -174,8 +151,8 @@ Result<std::string> MemoFile::headerProblem()
     if (Status status = readBlockSize(); !status.ok())
         return status.error();
     std::array<Byte, 4> head;
-    const Result<std::size_t> got = m_file.file().read(0, head);
-    const Result<std::uint64_t> size = m_file.file().size();
+    const Result<std::size_t> got = m_file->read(0, head);
+    const Result<std::uint64_t> size = m_file->size();
     if (!got.ok() || !size.ok())
         return got.ok() ? size.error() : got.error();
     const std::uint64_t next = *got < head.size() ? 0 : getBe32(head.data());

@@ -2,8 +2,7 @@
 // over, so a reader meets either text whole.
 #pragma once
 
-#include "db/engine/LockedFile.h"
-#include "db/engine/LockWait.h"
+#include "db/engine/File.h"
 
 #include <cstdint>
 #include <memory>
@@ -22,10 +21,15 @@ public:
     // The text that begins at a block. Damaged when there is none inside the file.
     Result<std::string> read(std::uint32_t block);
 
-    // Writes texts (none empty) behind all others and gives their blocks. Takes the memo lock,
-    // unless the caller has the table exclusively.
-    Result<std::vector<std::uint32_t>> append(const std::vector<std::string_view> &texts,
-                                              const LockPatience &patience, bool exclusive);
+    // Texts (none empty) as they will stand behind all others; writes nothing. REQUIRES: nobody
+    // else takes blocks before the caller has written them.
+    struct Placed {
+        std::vector<std::uint32_t> blocks;
+        std::uint64_t offset = 0; // bytes
+        std::vector<Byte> bytes;
+        std::uint32_t next = 0; // for the header: first free block then
+    };
+    Result<Placed> place(const std::vector<std::string_view> &texts);
 
     // Where a text lies, for the full check.
     struct Extent {
@@ -36,15 +40,15 @@ public:
     // What is wrong with the header, empty when it is sound.
     Result<std::string> headerProblem();
 
-    const std::string &path() { return m_file.file().path(); }
+    File &file() { return *m_file; }
+    const std::string &path() { return m_file->path(); }
 
 private:
     Status readBlockSize();
     Result<std::uint32_t> blockLength(std::uint32_t block, ByteView start, std::uint64_t size);
-    Result<std::vector<std::uint32_t>> place(const std::vector<std::string_view> &texts);
     std::uint64_t blocksFor(std::uint64_t bytes) const;
 
-    LockedFile m_file;
+    std::shared_ptr<File> m_file;
     std::uint32_t m_blockSize = 0; // bytes, 0 until read
 };
 

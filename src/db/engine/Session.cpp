@@ -23,11 +23,15 @@ Result<std::shared_ptr<TableFiles>> Session::filesFor(const std::string &path)
     key.append(settings.readOnly ? "|r" : "|w");
     if (std::shared_ptr<TableFiles> open = m_open[key].lock())
         return open;
-    Result<std::shared_ptr<TableFiles>> opened = TableFiles::open(m_files, path, settings.readOnly);
-    if (opened.ok())
+    const bool firstUse = m_used.count(key) == 0;
+    Result<std::shared_ptr<TableFiles>> opened =
+        TableFiles::open(m_files, path, settings, firstUse);
+    if (opened.ok()) {
         m_open[key] = *opened;
-    else
+        m_used.insert(key);
+    } else {
         m_open.erase(key);
+    }
     return opened;
 }
 

@@ -7,6 +7,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -53,6 +54,7 @@ private:
     std::vector<std::unique_ptr<OpenTable>> m_tables;
     // What is open now, so that all handles on a table share its files and locks.
     std::map<std::string, std::weak_ptr<TableFiles>> m_open;
+    std::set<std::string> m_used; // tables opened at least once
     Error m_lastError;
 };
 

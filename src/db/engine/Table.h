@@ -17,15 +17,6 @@
 namespace norvane::engine
 {
 
-// What a session hands to its tables; outlives them.
-struct SessionSettings {
-    bool exclusive = false;
-    bool readOnly = false;
-    bool lockEnforce = true;
-    bool reportTagNames = true;
-    LockPatience patience;
-};
-
 class Table
 {
 public:
@@ -127,15 +118,16 @@ private:
     Status beginChange();
     void blankRow();
     Status store();
-    Status storeMemos();
-    Status storeDate();
+    Status placeMemos();
     Result<std::vector<KeyChange>> keyChanges(bool newRow) const;
     Status changeKeys(const std::vector<KeyChange> &changes, std::uint32_t record);
     Status changeKey(int tag, const std::string &from, const std::string &to, std::uint32_t record);
     Status lockForAppend(std::uint32_t &record);
-    Status storeIndexed(const std::vector<KeyChange> &changes);
+    Status unlockAfterAppend();
+    Status appendOnce(bool &moved);
+    bool memosChanged() const;
+    Status storeLocked(std::vector<KeyChange> &changes);
     Status appendLocked(std::uint32_t record);
-    Status appendIndexed(const std::vector<KeyChange> &changes, std::uint32_t record);
     void takeBackKeys(const std::vector<KeyChange> &changes, std::uint32_t record);
     void rowStored(std::uint32_t record);
 

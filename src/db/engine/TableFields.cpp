@@ -203,8 +203,9 @@ Status Table::assignMemo(int field, std::string_view text)
         return status;
     // An unchanged text keeps its blocks, or every save would grow the file.
     const Result<const std::string *> before = memo(field);
-    if (before.ok() ? **before == text : text.empty())
-        return {}; // one that cannot be read shows as empty and is not lost by that
+    const bool damaged = !before.ok() && before.error().kind == ErrorKind::Damaged;
+    if (before.ok() ? **before == text : damaged && text.empty())
+        return {}; // a damaged one shows as empty and is not lost by that
     Memo &memo = m_memos[static_cast<std::size_t>(field)];
     memo.text.assign(text);
     memo.known = true;

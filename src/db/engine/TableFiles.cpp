@@ -4,17 +4,12 @@
 
 #include <algorithm>
 #include <array>
-#include <cstring>
 
 namespace norvane::engine
 {
 
 namespace
 {
-
-// Uncommitted index changes an exclusive session may collect; bounds memory and what a
-// crash in a bulk load leaves without keys.
-constexpr int kMostWaiting = 20000;
 
 Result<std::unique_ptr<File>> openAny(FileSystem &files, const std::string &path, bool readOnly)
 {
@@ -52,12 +47,12 @@ TableFiles::~TableFiles()
 }
 
 Result<std::shared_ptr<TableFiles>> TableFiles::open(FileSystem &files, const std::string &path,
-                                                     bool readOnly)
+                                                     const SessionSettings &settings, bool firstUse)
 {
-    Result<std::unique_ptr<File>> table = openAny(files, path, readOnly);
+    Result<std::unique_ptr<File>> table = openAny(files, path, settings.readOnly);
     if (!table.ok())
         return table.error();
-    std::shared_ptr<TableFiles> opened(new TableFiles(files, std::move(*table)));
+    std::shared_ptr<TableFiles> opened(new TableFiles(files, std::move(*table), settings));
     // Held as long as this object lives, so that nobody alone in the table changes it meanwhile.
     if (Status status = opened->m_table.tryLock(kOpenByte, LockMode::Shared); !status.ok())
         return status.error();
@@ -72,7 +67,19 @@ Result<std::shared_ptr<TableFiles>> TableFiles::open(FileSystem &files, const st
     opened->m_count = opened->m_header.possibleCount(opened->m_header.count, *size);
     if (Status status = opened->openBeside(); !status.ok())
         return status.error();
+    opened->m_journal = std::make_unique<TableJournal>(files, besidePath(opened->path(), "nvj"),
+                                                       opened->m_header, firstUse);
+    opened->nameTargets();
+    if (Status status = opened->settleAtOpen(); !status.ok())
+        return status.error();
     return opened;
+}
+
+void TableFiles::nameTargets()
+{
+    if (m_journal)
+        m_journal->setFiles({{m_memo ? &m_memo->file() : nullptr, &m_table.file(),
+                              m_indexFile ? &m_indexFile->file() : nullptr}});
 }
 
 Status TableFiles::openBeside()
@@ -94,9 +101,9 @@ Status TableFiles::openIndex(const std::string &path, bool readOnly)
     Result<std::unique_ptr<File>> file = openAny(m_system, path, readOnly);
     if (!file.ok())
         return file.error();
-    m_indexWrites = std::make_shared<UndoFile>(std::move(*file));
-    m_indexFile.emplace(m_indexWrites);
-    Result<std::unique_ptr<IndexFile>> index = IndexFile::open(m_indexWrites, layout());
+    m_indexFile.emplace(std::shared_ptr<File>(std::move(*file)));
+    nameTargets();
+    Result<std::unique_ptr<IndexFile>> index = IndexFile::open(m_indexFile->shared(), layout());
     if (!index.ok())
         return index.error();
     m_index = std::move(*index);
@@ -121,8 +128,12 @@ Status TableFiles::enterExclusive()
 Status TableFiles::leaveExclusive()
 {
     Status written;
-    if (m_exclusive == 1)
+    if (m_exclusive == 1) {
         written = writeOut();
+        const Status ended = m_journal ? m_journal->endBulk() : Status();
+        if (written.ok())
+            written = ended;
+    }
     --m_exclusive;
     Status unlocked = m_table.unlock(kOpenByte, LockMode::Exclusive);
     return written.ok() ? unlocked : written;
@@ -156,89 +167,11 @@ Status TableFiles::readRows(std::uint32_t first, ByteSpan into)
     return {};
 }
 
-Status TableFiles::writeRow(std::uint32_t record, ByteView row)
-{
-    ++m_stamp;
-    return m_table.file().write(m_header.rowPlace(record), row);
-}
-
 Status TableFiles::checkRoom()
 {
     if (m_count < maxRecords(m_header.length, layout().recordLength))
         return {};
     return Error{ErrorKind::TooLarge, path(), "the table is full"};
-}
-
-Status TableFiles::appendRow(ByteView row)
-{
-    std::vector<Byte> bytes(row.begin(), row.end());
-    bytes.push_back(kEndOfFile);
-    const std::uint64_t place = m_header.rowPlace(m_count + 1);
-    const std::uint64_t end = place + bytes.size();
-    ++m_stamp;
-    Status status = m_table.file().write(place, bytes);
-    // Rows behind the count were never acknowledged; what is left of them goes.
-    if (status.ok() && m_size > end)
-        status = m_table.file().resize(end);
-    if (status.ok())
-        status = writeCount(m_count + 1);
-    m_size = end;
-    ++m_count;
-    if (!status.ok())
-        undoAppend();
-    return status;
-}
-
-void TableFiles::undoAppend()
-{
-    --m_count;
-    ++m_stamp;
-    const std::uint64_t end = m_header.rowPlace(m_count + 1);
-    (void)writeCount(m_count);
-    const Byte mark = kEndOfFile;
-    (void)m_table.file().write(end, ByteView(&mark, 1));
-    (void)m_table.file().resize(end + 1);
-    m_size = end + 1;
-}
-
-Status TableFiles::writeCount(std::uint32_t count)
-{
-    if (exclusive()) {
-        m_countWaits = true;
-        return {};
-    }
-    m_header.changed = today();
-    return m_table.file().write(kCountPlace, makeDateAndCount(m_header.changed, count));
-}
-
-bool TableFiles::dateIsOld() const
-{
-    Date date = today();
-    date.year %= 100;
-    Date stored = m_header.changed;
-    stored.year %= 100;
-    return !(date == stored);
-}
-
-Status TableFiles::writeDate()
-{
-    m_header.changed = today();
-    const std::vector<Byte> bytes = makeDateAndCount(m_header.changed, 0);
-    return m_table.file().write(kCountPlace, ByteView(bytes).first(3));
-}
-
-Status TableFiles::commitIndex()
-{
-    ++m_stamp;
-    if (exclusive())
-        return ++m_indexWaits < kMostWaiting ? Status() : writeOut();
-    m_indexWrites->begin();
-    Status status = m_index->commit();
-    if (status.ok())
-        m_indexWrites->keep();
-    else
-        (void)m_indexWrites->undo();
-    return status;
 }
 
 Status TableFiles::dropIndexChanges()
@@ -307,6 +240,8 @@ Status TableFiles::rebuildIndex()
 {
     if (!m_index)
         return {};
+    if (Status status = m_journal->beginBulk(); !status.ok())
+        return status;
     if (Status status = writeOutCount(); !status.ok())
         return status;
     m_index->discard();
@@ -332,7 +267,7 @@ Status TableFiles::rebuildIndex()
     }
     m_index.reset(); // an open file cannot be replaced everywhere
     m_indexFile.reset();
-    m_indexWrites.reset();
+    nameTargets();
     const Status renamed = m_system.rename(beside, live);
     if (!renamed.ok())
         (void)m_system.remove(beside);
@@ -341,34 +276,6 @@ Status TableFiles::rebuildIndex()
     if (opened.ok())
         opened = m_index->refresh();
     return renamed.ok() ? opened : renamed;
-}
-
-TableFiles::IndexLock::~IndexLock()
-{
-    (void)release();
-}
-
-Status TableFiles::IndexLock::take(TableFiles &files, LockMode mode, const LockPatience &patience)
-{
-    if (files.exclusive())
-        return {};
-    Status status = waitForLock(patience, LockPace::Brief, [&files, mode] {
-        return files.m_indexFile->tryLock(kLockByte, mode);
-    });
-    if (!status.ok())
-        return status;
-    m_files = &files;
-    m_mode = mode;
-    return files.m_index->refresh();
-}
-
-Status TableFiles::IndexLock::release()
-{
-    if (!m_files)
-        return {};
-    TableFiles *files = m_files;
-    m_files = nullptr;
-    return files->m_indexFile->unlock(kLockByte, m_mode);
 }
 
 } // namespace norvane::engine

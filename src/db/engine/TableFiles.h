@@ -6,8 +6,9 @@
 #include "db/engine/LockedFile.h"
 #include "db/engine/LockWait.h"
 #include "db/engine/MemoFile.h"
+#include "db/engine/SessionSettings.h"
 #include "db/engine/TableFormat.h"
-#include "db/engine/UndoFile.h"
+#include "db/engine/TableJournal.h"
 
 #include <cstdint>
 #include <memory>
@@ -21,9 +22,10 @@ class TableFiles
 {
 public:
     // Opens table, production index and memo file; a file that refuses writing is opened for
-    // reading. Locked when another session holds the table exclusively.
+    // reading. Locked when another session holds the table exclusively. What a station that died
+    // left unfinished is finished first. `firstUse`: the session did not open the table before.
     static Result<std::shared_ptr<TableFiles>> open(FileSystem &files, const std::string &path,
-                                                    bool readOnly);
+                                                    const SessionSettings &settings, bool firstUse);
     ~TableFiles();
     TableFiles(const TableFiles &) = delete;
     TableFiles &operator=(const TableFiles &) = delete;
@@ -46,19 +48,21 @@ public:
     Status refreshCount();
     // Reads rows into `into`; fewer bytes than asked for are Damaged.
     Status readRows(std::uint32_t first, ByteSpan into);
-    Status writeRow(std::uint32_t record, ByteView row);
-    // Puts one row behind the last: row, end mark, then date and count. REQUIRES: append lock.
-    Status appendRow(ByteView row);
-    // Takes the row just appended away again.
-    void undoAppend();
     // Refuses a table that is full. REQUIRES: a fresh count.
     Status checkRoom();
-    // Brings the header's date of change to this day. REQUIRES: append lock.
-    Status writeDate();
-    bool dateIsOld() const;
 
-    // Index changes collect in memory while the table is held exclusively; else at once.
-    Status commitIndex();
+    // ---- one save (TableSave.cpp). REQUIRES: the commit lock, exclusive
+    void beginSave() { m_pieces.clear(); }
+    // Blocks for texts (none empty) behind all others.
+    Result<std::vector<std::uint32_t>> putMemos(const std::vector<std::string_view> &texts);
+    void putRow(std::uint32_t record, ByteView row);
+    // A row behind the last. REQUIRES: append lock.
+    void putNewRow(ByteView row);
+    // Stores what was put and the changes of the index: all of it, or nothing when it fails.
+    // While the table is held exclusively index changes and count collect in memory.
+    Status commitSave();
+    // Puts a row back that a save held exclusively could not write.
+    void restoreRow(std::uint32_t record, ByteView row);
     // Forgets key changes after one of them failed. Those of rows stored before that only waited
     // in memory come back by building the index anew.
     Status dropIndexChanges();
@@ -71,7 +75,9 @@ public:
     Status rebuildIndex();
     RowSource allRows();
 
-    // The index lock for one operation; nothing when the table is held exclusively.
+    // The index lock for one operation; nothing when the table is held exclusively. Held
+    // exclusively it is the commit lock: one save at a time in a table. A table without an index
+    // has its append byte for it.
     class IndexLock
     {
     public:
@@ -79,7 +85,8 @@ public:
         ~IndexLock();
         IndexLock(const IndexLock &) = delete;
         IndexLock &operator=(const IndexLock &) = delete;
-        // Takes the lock and drops pages that another session has changed.
+        // Takes the lock, finishes a save whose station died, and drops pages that another
+        // session has changed.
         Status take(TableFiles &files, LockMode mode, const LockPatience &patience);
         Status release();
 
@@ -89,25 +96,44 @@ public:
     };
 
 private:
-    explicit TableFiles(FileSystem &files, std::shared_ptr<File> table)
-        : m_system(files), m_table(std::move(table))
+    TableFiles(FileSystem &files, std::shared_ptr<File> table, const SessionSettings &settings)
+        : m_system(files), m_settings(settings), m_table(std::move(table))
     {
     }
 
     Status openBeside();
     Status openIndex(const std::string &path, bool readOnly);
-    Status writeCount(std::uint32_t count);
     Status writeOutCount();
+    void nameTargets();
+
+    // TableSave.cpp
+    void putDate();
+    bool dateIsOld() const;
+    Status commitThroughJournal();
+    Status writePast();
+    void takeBackPast();
+    LockedFile &lockFile() { return m_indexFile ? *m_indexFile : m_table; }
+    Status takeCommitLock(LockMode mode, const LockPatience &patience);
+    Status settle(LockMode mode, const LockPatience &patience);
+    Status settleAtOpen();
+    Status settleForReading();
+    Status recover();
+    Status mendIndex();
+    Status layOver(File &fresh);
 
     FileSystem &m_system;
+    const SessionSettings &m_settings;
     LockedFile m_table;
     TableHeader m_header;
     std::uint32_t m_count = 0;
     std::uint64_t m_size = 0; // bytes, as of the last look
     std::optional<LockedFile> m_indexFile;
-    std::shared_ptr<UndoFile> m_indexWrites; // the same file
     std::unique_ptr<IndexFile> m_index;
     std::unique_ptr<MemoFile> m_memo;
+    std::unique_ptr<TableJournal> m_journal;
+    Pieces m_pieces; // of the save being put together
+    bool m_appends = false;
+    int m_lockDepth = 0;
     int m_exclusive = 0;
     bool m_countWaits = false; // exclusive: the header's count is behind
     int m_indexWaits = 0;      // exclusive: index changes not yet committed

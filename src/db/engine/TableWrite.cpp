@@ -1,5 +1,5 @@
-// Storing rows. Order: memo texts, then under the index lock keys in memory, the row, the keys in
-// the file; so whatever can fail without harm fails before the row is touched.
+// Storing rows. Under the commit lock a save is put together in memory (texts, keys, the row) and
+// then stored as one (TableSave.cpp).
 #include "db/engine/LockPlaces.h"
 #include "db/engine/Table.h"
 
@@ -77,52 +77,46 @@ Status Table::store()
         return {};
     if (!holdsLock(m_recNo))
         return Error{ErrorKind::Misuse, m_files->path(), "the row is not locked", m_recNo};
-    if (Status status = storeMemos(); !status.ok())
-        return status;
-    if (m_row == m_stored) {
+    if (m_row == m_stored && !memosChanged()) {
         m_changed = false;
         return {};
     }
-    const Result<std::vector<KeyChange>> changes = keyChanges(false);
-    if (!changes.ok())
-        return changes.error();
-    if (Status status = storeDate(); !status.ok())
-        return status;
     const int placeTag = m_placeTag >= 0 ? m_placeTag : orderTag();
     if (placeTag >= 0)
         (void)placeInTag(placeTag); // a deleted row keeps its place for the next move
 
-    const Status status =
-        changes->empty() ? m_files->writeRow(m_recNo, m_row) : storeIndexed(*changes);
-    if (!status.ok())
+    TableFiles::IndexLock lock;
+    if (Status status = lock.take(*m_files, LockMode::Exclusive, m_settings.patience); !status.ok())
         return status;
-    for (const KeyChange &change : *changes) {
+    std::vector<KeyChange> changes;
+    if (Status status = storeLocked(changes); !status.ok())
+        return status;
+    for (const KeyChange &change : changes) {
         if (change.tag == m_placeTag && !change.after.empty())
             m_placeKey = change.after;
     }
     rowStored(m_recNo);
-    return {};
+    return lock.release();
 }
 
-Status Table::storeIndexed(const std::vector<KeyChange> &changes)
+Status Table::storeLocked(std::vector<KeyChange> &changes)
 {
-    TableFiles::IndexLock lock;
-    if (Status status = lock.take(*m_files, LockMode::Exclusive, m_settings.patience); !status.ok())
+    m_files->beginSave();
+    if (Status status = placeMemos(); !status.ok())
         return status;
+    Result<std::vector<KeyChange>> found = keyChanges(false);
+    if (!found.ok())
+        return found.error();
+    changes = std::move(*found);
     if (Status status = changeKeys(changes, m_recNo); !status.ok())
         return status;
-    Status status = m_files->writeRow(m_recNo, m_row);
-    if (!status.ok())
+    m_files->putRow(m_recNo, m_row);
+    Status status = m_files->commitSave();
+    if (!status.ok() && m_files->exclusive()) {
         takeBackKeys(changes, m_recNo);
-    else
-        status = m_files->commitIndex();
-    if (!status.ok()) {
-        if (!m_files->exclusive())
-            m_files->index()->discard();
-        (void)m_files->writeRow(m_recNo, m_stored);
-        return status;
+        m_files->restoreRow(m_recNo, m_stored);
     }
-    return lock.release();
+    return status;
 }
 
 void Table::rowStored(std::uint32_t record)
@@ -138,7 +132,14 @@ void Table::rowStored(std::uint32_t record)
         memo.changed = false;
 }
 
-Status Table::storeMemos()
+bool Table::memosChanged() const
+{
+    return std::any_of(m_memos.begin(), m_memos.end(),
+                       [](const Memo &memo) { return memo.changed; });
+}
+
+// Changed texts get fresh blocks, so that the old ones stay until the row is committed.
+Status Table::placeMemos()
 {
     std::vector<std::string_view> texts;
     std::vector<int> fields;
@@ -147,7 +148,6 @@ Status Table::storeMemos()
             continue;
         if (m_memos[i].text.empty()) {
             putMemoBlock(static_cast<int>(i), 0);
-            m_memos[i].changed = false;
             continue;
         }
         texts.emplace_back(m_memos[i].text);
@@ -155,33 +155,12 @@ Status Table::storeMemos()
     }
     if (texts.empty())
         return {};
-    const Result<std::vector<std::uint32_t>> blocks =
-        m_files->memo()->append(texts, m_settings.patience, m_files->exclusive());
+    const Result<std::vector<std::uint32_t>> blocks = m_files->putMemos(texts);
     if (!blocks.ok())
         return blocks.error();
-    for (std::size_t i = 0; i < fields.size(); ++i) {
+    for (std::size_t i = 0; i < fields.size(); ++i)
         putMemoBlock(fields[i], (*blocks)[i]);
-        m_memos[static_cast<std::size_t>(fields[i])].changed = false;
-    }
     return {};
-}
-
-// The header's date of change is this day's after any write; appends write it with the count.
-Status Table::storeDate()
-{
-    if (!m_files->dateIsOld())
-        return {};
-    if (m_files->exclusive())
-        return m_files->writeDate();
-    LockedFile &table = m_files->table();
-    const Status locked = waitForLock(m_settings.patience, LockPace::Brief, [&table] {
-        return table.tryLock(kLockByte, LockMode::Exclusive);
-    });
-    if (!locked.ok())
-        return locked;
-    const Status written = m_files->writeDate();
-    Status unlocked = table.unlock(kLockByte, LockMode::Exclusive);
-    return written.ok() ? unlocked : written;
 }
 
 // ---- keys
@@ -234,13 +213,9 @@ Status Table::changeKeys(const std::vector<KeyChange> &changes, std::uint32_t re
     return {};
 }
 
+// Sole use: the keys of rows stored before wait in memory too and must stay.
 void Table::takeBackKeys(const std::vector<KeyChange> &changes, std::uint32_t record)
 {
-    if (!m_files->exclusive()) {
-        m_files->index()->discard();
-        return;
-    }
-    // The keys of rows stored before wait in memory too and must stay.
     for (auto it = changes.rbegin(); it != changes.rend(); ++it)
         (void)changeKey(it->tag, it->after, it->before, record);
 }
@@ -287,22 +262,40 @@ Status Table::append()
 {
     if (!m_appending)
         return Error{ErrorKind::Misuse, m_files->path(), "no row has been begun"};
+    bool moved = false;
+    Status status = appendOnce(moved);
+    while (status.ok() && moved)
+        status = appendOnce(moved);
+    return status;
+}
+
+// `moved`: the row's number went to a save that had to be finished first; nothing was stored.
+Status Table::appendOnce(bool &moved)
+{
+    moved = false;
     std::uint32_t record = 0;
     if (Status status = lockForAppend(record); !status.ok())
         return status;
-    Status status = appendLocked(record);
-    if (!m_files->exclusive()) {
-        const Status unlocked = m_files->table().unlock(kLockByte, LockMode::Exclusive);
-        if (status.ok())
-            status = unlocked;
-    }
-    if (!status.ok()) {
-        (void)unlockOne(record);
-        return status;
+    TableFiles::IndexLock lock;
+    Status status = lock.take(*m_files, LockMode::Exclusive, m_settings.patience);
+    moved = status.ok() && m_files->count() + 1 != record;
+    if (status.ok() && !moved)
+        status = appendLocked(record);
+    const Status released = lock.release();
+    const Status unlocked = unlockAfterAppend();
+    if (!status.ok() || moved) {
+        const Status left = unlockOne(record);
+        return status.ok() ? left : status;
     }
     m_placeTag = -1;
     rowStored(record);
-    return {};
+    return released.ok() ? unlocked : released;
+}
+
+Status Table::unlockAfterAppend()
+{
+    return m_files->exclusive() ? Status()
+                                : m_files->table().unlock(kLockByte, LockMode::Exclusive);
 }
 
 // The append lock and that of the row to come; never waits for the second holding the first.
@@ -333,33 +326,19 @@ Status Table::lockForAppend(std::uint32_t &record)
 
 Status Table::appendLocked(std::uint32_t record)
 {
+    m_files->beginSave();
+    if (Status status = placeMemos(); !status.ok())
+        return status;
     const Result<std::vector<KeyChange>> changes = keyChanges(true);
     if (!changes.ok())
         return changes.error();
-    if (Status status = storeMemos(); !status.ok())
+    if (Status status = changeKeys(*changes, record); !status.ok())
         return status;
-    return changes->empty() ? m_files->appendRow(m_row) : appendIndexed(*changes, record);
-}
-
-Status Table::appendIndexed(const std::vector<KeyChange> &changes, std::uint32_t record)
-{
-    TableFiles::IndexLock lock;
-    if (Status status = lock.take(*m_files, LockMode::Exclusive, m_settings.patience); !status.ok())
-        return status;
-    if (Status status = changeKeys(changes, record); !status.ok())
-        return status;
-    if (Status status = m_files->appendRow(m_row); !status.ok()) {
-        takeBackKeys(changes, record);
-        return status;
-    }
-    if (Status status = m_files->commitIndex(); !status.ok()) {
-        if (!m_files->exclusive()) {
-            m_files->index()->discard();
-            m_files->undoAppend();
-        }
-        return status;
-    }
-    return lock.release();
+    m_files->putNewRow(m_row);
+    Status status = m_files->commitSave();
+    if (!status.ok() && m_files->exclusive())
+        takeBackKeys(*changes, record);
+    return status;
 }
 
 } // namespace norvane::engine

@@ -42,7 +42,10 @@ void code4lockAttempts(Handle session, int attempts); // -1 without end
 void code4lockEnforce(Handle session, int flag);      // 1: writing needs the row's lock
 void code4lockDelay(Handle session, int hundredths);  // between attempts
 void code4errTagName(Handle session, int flag);       // 1 reports unknown tag names (default)
-Code code4errorCode(Handle session, int value);       // sets, gives the one before
+// What survives once a save was reported as done: "full" (default) a killed process and a power
+// cut, "process" a killed process; anything else is as full.
+void code4durability(Handle session, std::string_view setting);
+Code code4errorCode(Handle session, int value); // sets, gives the one before
 // What failed last in the session; kind None when nothing did.
 const Error &lastError(Handle session);
 // Called for each engine failure that is not an expected answer (a row locked elsewhere, a table

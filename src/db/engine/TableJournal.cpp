@@ -1,0 +1,350 @@
+// Saving through the journal.
+#include "db/engine/TableJournal.h"
+
+#include "db/engine/Crc32c.h"
+
+#include <algorithm>
+#include <random>
+
+namespace norvane::engine
+{
+
+namespace
+{
+
+constexpr std::uint64_t kFull = kJournalSize / 4 * 3;
+constexpr std::uint64_t kIndexCounter = 8; // place in the index header, high byte first
+
+std::uint64_t newSalt()
+{
+    static std::random_device device;
+    return std::uint64_t{device()} << 32 | device();
+}
+
+// Of what stays the same while a table lives: its fields and lengths.
+std::uint32_t shapeOf(const TableHeader &header)
+{
+    std::uint32_t crc = crc32c(asBytes(std::to_string(header.length)));
+    for (const FieldDef &field : header.layout.fields) {
+        const std::string text = field.name + field.type + std::to_string(field.length);
+        crc = crc32c(asBytes(text), crc);
+    }
+    return crc;
+}
+
+} // namespace
+
+TableJournal::TableJournal(FileSystem &files, std::string path, const TableHeader &header,
+                           bool firstUse)
+    : m_system(files),
+      m_journal(files, std::move(path)),
+      m_headerLength(header.length),
+      m_recordLength(header.layout.recordLength),
+      m_shape(shapeOf(header)),
+      m_firstUse(firstUse)
+{
+}
+
+JournalHeader TableJournal::freshHeader() const
+{
+    JournalHeader head;
+    head.salt = newSalt();
+    head.boot = m_system.bootMark();
+    head.shape = m_shape;
+    return head;
+}
+
+Status TableJournal::readHead()
+{
+    const Result<Journal::State> state = m_journal.read(m_head, false);
+    if (!state.ok())
+        return state.error();
+    m_state = *state;
+    return {};
+}
+
+Status TableJournal::ensureJournal()
+{
+    if (m_state == Journal::State::Sound)
+        return {};
+    m_head = freshHeader();
+    Status status = m_journal.create(m_head, true);
+    if (status.ok())
+        m_state = Journal::State::Sound;
+    return status;
+}
+
+Status TableJournal::measure(std::array<std::uint64_t, kTargets> &sizes) const
+{
+    for (std::size_t i = 0; i < kTargets; ++i) {
+        sizes[i] = 0;
+        if (!m_files.files[i])
+            continue;
+        const Result<std::uint64_t> size = m_files.files[i]->size();
+        if (!size.ok())
+            return size.error();
+        sizes[i] = *size;
+    }
+    return {};
+}
+
+Result<std::uint32_t> TableJournal::countInHeader() const
+{
+    std::array<Byte, 4> bytes{};
+    const Result<std::size_t> got = m_files.at(Target::Table)->read(4, bytes);
+    return got.ok() ? Result<std::uint32_t>(getLe32(bytes.data())) : got.error();
+}
+
+Result<std::uint32_t> TableJournal::counterInIndex() const
+{
+    std::array<Byte, 4> bytes{};
+    if (!m_files.at(Target::Index))
+        return 0U;
+    const Result<std::size_t> got = m_files.at(Target::Index)->read(kIndexCounter, bytes);
+    return got.ok() ? Result<std::uint32_t>(getBe32(bytes.data())) : got.error();
+}
+
+// Records from before another program's write, or from before a restart of the machine, must
+// never be laid over what came later: they end here.
+Status TableJournal::noteOthersWrites()
+{
+    const Result<std::uint32_t> rows = countInHeader();
+    const Result<std::uint32_t> counter = counterInIndex();
+    if (!rows.ok() || !counter.ok())
+        return rows.ok() ? counter.error() : rows.error();
+    const bool foreign = *rows != m_head.rows || *counter != m_head.counter;
+    const bool restart = !m_head.has(JournalHeader::kDurable) && m_head.boot != m_system.bootMark();
+    if (!m_head.empty() && (foreign || restart)) {
+        if (Status status = checkpoint(); !status.ok())
+            return status;
+    }
+    m_head.rows = *rows;
+    m_head.counter = *counter;
+    m_head.boot = m_system.bootMark();
+    return {};
+}
+
+Status TableJournal::captureBefore(Pieces &pieces) const
+{
+    std::vector<Byte> disk;
+    for (Piece &piece : pieces) {
+        piece.before.clear();
+        disk.assign(piece.bytes.size(), 0);
+        const Result<std::size_t> got = m_files.at(piece.target)->read(piece.offset, disk);
+        if (!got.ok())
+            return got.error();
+        for (std::size_t n = 0; n < sectorsIn(piece.offset, disk.size()); ++n)
+            piece.before.push_back(crc32c(sectorPart(disk, piece.offset, n)));
+    }
+    return {};
+}
+
+Status TableJournal::makeRoom(std::size_t length)
+{
+    const bool suspect = m_head.has(JournalHeader::kForce);
+    return suspect || (!m_head.empty() && m_head.next + length > kFull) ? checkpoint() : Status();
+}
+
+Status TableJournal::commit(Pieces &pieces, Durability durability, bool &committed)
+{
+    committed = false;
+    if (Status status = ensureJournal(); !status.ok())
+        return status;
+    if (Status status = noteOthersWrites(); !status.ok())
+        return status;
+    if (Status status = captureBefore(pieces); !status.ok())
+        return status;
+    const std::uint64_t number = m_head.applied + 1;
+    std::vector<Byte> record = Journal::encode(number, m_head.salt, pieces);
+    const std::uint64_t salt = m_head.salt;
+    if (Status status = makeRoom(record.size()); !status.ok())
+        return status;
+    if (m_head.salt != salt)
+        record = Journal::encode(number, m_head.salt, pieces);
+
+    if (Status status = measure(m_head.sizes); !status.ok())
+        return status;
+    m_head.begun = number;
+    if (Status status = m_journal.write(m_head); !status.ok())
+        return abandon(status, false);
+    const bool network = m_journal.onNetwork();
+    if (Status status = grow(pieces); !status.ok())
+        return abandon(status, false);
+    if (Status status = store(record, durability == Durability::Full || network); !status.ok())
+        return abandon(status, true);
+    committed = true;
+
+    Status status = apply(pieces);
+    if (!status.ok())
+        status = apply(pieces);
+    if (status.ok() && network)
+        status = syncAll();
+    if (status.ok())
+        finish(pieces, record.size(), network);
+    return status;
+}
+
+// What lengthens the files comes before the commit, while it can still fail for lack of room.
+Status TableJournal::grow(const Pieces &pieces)
+{
+    for (const Piece &piece : pieces) {
+        if (!piece.fresh)
+            continue;
+        File &file = *m_files.at(piece.target);
+        if (Status status = file.write(piece.offset, piece.bytes); !status.ok())
+            return status;
+        // Rows behind the count were never acknowledged; what is left of them goes.
+        if (piece.target == Target::Table && m_head.sizes[1] > piece.end()) {
+            if (Status status = file.resize(piece.end()); !status.ok())
+                return status;
+        }
+    }
+    return {};
+}
+
+Status TableJournal::store(const std::vector<Byte> &record, bool withSync)
+{
+    if (Status status = m_journal.writeRecord(m_head.next, record); !status.ok())
+        return status;
+    return withSync ? m_journal.sync() : Status();
+}
+
+// Leaves no trace of a save that failed before its commit. What cannot be undone now is left to
+// recover(), which finds the save begun and no record of it.
+Status TableJournal::abandon(Status failure, bool recordWritten)
+{
+    const bool wiped = !recordWritten || m_journal.wipeRecord(m_head.next).ok();
+    if (wiped && takeBackGrowth().ok()) {
+        m_head.begun = m_head.applied;
+        (void)m_journal.write(m_head);
+    }
+    return failure;
+}
+
+Status TableJournal::apply(const Pieces &pieces)
+{
+    for (const Piece &piece : pieces) {
+        if (piece.fresh)
+            continue;
+        if (Status status = m_files.at(piece.target)->write(piece.offset, piece.bytes);
+            !status.ok())
+            return status;
+    }
+    return {};
+}
+
+void TableJournal::finish(const Pieces &pieces, std::size_t length, bool durable)
+{
+    for (const Piece &piece : pieces) {
+        if (piece.target == Target::Table && piece.offset == kCountPlace && piece.bytes.size() >= 7)
+            m_head.rows = getLe32(&piece.bytes[3]);
+        if (piece.target == Target::Index && piece.offset == 0)
+            m_head.counter = getBe32(&piece.bytes[kIndexCounter]);
+    }
+    const bool allDurable = durable && (m_head.empty() || m_head.has(JournalHeader::kDurable));
+    m_head.flags &= ~JournalHeader::kDurable;
+    m_head.flags |= allDurable ? JournalHeader::kDurable : 0;
+    m_head.applied = m_head.begun;
+    m_head.next += length;
+    // When this fails the save is done all the same, and found done by the next one.
+    (void)m_journal.write(m_head);
+    if (durable)
+        (void)m_journal.sync();
+}
+
+Status TableJournal::newEpoch()
+{
+    m_head.salt = newSalt();
+    m_head.first = m_head.applied + 1;
+    m_head.begun = m_head.applied;
+    m_head.next = kJournalStart;
+    m_head.boot = m_system.bootMark();
+    m_head.shape = m_shape;
+    m_head.flags &= JournalHeader::kRebuild;
+    Status status = m_journal.write(m_head);
+    // Before a record of the new salt is written over one of the old that a power cut would
+    // bring back.
+    if (status.ok())
+        status = m_journal.sync();
+    if (status.ok())
+        m_journal.shrink();
+    return status;
+}
+
+Status TableJournal::checkpoint()
+{
+    if (m_head.has(JournalHeader::kForce)) {
+        const Result<std::vector<JournalRecord>> records =
+            m_journal.records(m_head, kJournalStart, m_head.first);
+        if (!records.ok())
+            return records.error();
+        const Result<ReplayResult> result = replay(*records, m_files, true);
+        if (!result.ok())
+            return result.error();
+    }
+    Status status = syncAll();
+    if (status.ok())
+        return newEpoch();
+    // The system may have dropped what it could not write: next time all is written again.
+    m_head.flags |= JournalHeader::kForce;
+    (void)m_journal.write(m_head);
+    return status;
+}
+
+// Each through an open file of its own, so that a failure is never asked for twice on one.
+Status TableJournal::syncAll()
+{
+    for (File *file : m_files.files) {
+        if (!file)
+            continue;
+        Result<std::unique_ptr<File>> own = m_system.open(file->path(), OpenMode::ReadWrite);
+        if (!own.ok())
+            return own.error();
+        if (Status status = (*own)->sync(); !status.ok())
+            return status;
+    }
+    return {};
+}
+
+Status TableJournal::beginBulk()
+{
+    if (m_inBulk)
+        return {};
+    if (m_state == Journal::State::Sound && !m_head.empty()) {
+        if (Status status = checkpoint(); !status.ok())
+            return status;
+    }
+    const bool known = m_state == Journal::State::Sound;
+    if (!known)
+        m_head = freshHeader();
+    const Result<std::uint32_t> rows = countInHeader();
+    if (!rows.ok())
+        return rows.error();
+    m_head.rows = *rows;
+    m_head.flags |= JournalHeader::kBulk;
+    Status status = known ? m_journal.write(m_head) : m_journal.create(m_head, false);
+    if (status.ok() && known)
+        status = m_journal.sync();
+    if (!status.ok())
+        return status;
+    m_state = Journal::State::Sound;
+    m_inBulk = true;
+    return {};
+}
+
+// Nobody else has the table open, so the journal may go altogether.
+Status TableJournal::endBulk()
+{
+    if (!m_inBulk)
+        return {};
+    m_inBulk = false; // with the mark left standing, whoever comes next mends the table
+    if (Status status = syncAll(); !status.ok())
+        return status;
+    if (Status status = newEpoch(); !status.ok())
+        return status;
+    if (m_journal.remove().ok())
+        m_state = Journal::State::Missing;
+    return {};
+}
+
+} // namespace norvane::engine

@@ -1,0 +1,102 @@
+// The saves of one table through its journal: begin, commit, apply, checkpoint, recover
+// (docs/crash-safety.md). Every operation but look() REQUIRES that the caller holds the table's
+// commit lock exclusively or has the table alone.
+#pragma once
+
+#include "db/engine/Journal.h"
+#include "db/engine/JournalReplay.h"
+#include "db/engine/TableFormat.h"
+#include "db/engine/WriteSet.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+namespace norvane::engine
+{
+
+// What a save reported as done survives.
+enum class Durability {
+    Full,   // a killed process and a power cut
+    Process // a killed process
+};
+
+class TableJournal
+{
+public:
+    // `firstUse`: nobody of this session has looked at this journal before.
+    TableJournal(FileSystem &files, std::string path, const TableHeader &header, bool firstUse);
+
+    void setFiles(const TargetFiles &files) { m_files = files; }
+
+    enum class Need {
+        Nothing,
+        Finish, // a save is under way, or its station died
+        Repair  // nobody can be at it: an unfinished load, a restart of the machine, doubtful tags
+    };
+    // One small read.
+    Result<Need> look(bool readOnly);
+    // Finishes or takes back what others began. True when the tags have to be built anew; this is
+    // kept in the journal until rebuilt().
+    Result<bool> recover();
+    Status rebuilt();
+
+    // Stores the pieces: all of them or, when it fails, none. Fresh ones first.
+    // When only the way from the journal to the files failed, recover() will finish it; the
+    // failure is of kind Io and `committed` is true.
+    Status commit(Pieces &pieces, Durability durability, bool &committed);
+
+    // Writing past the journal, alone in the table.
+    Status beginBulk();
+    Status endBulk();
+    bool inBulk() const { return m_inBulk; }
+
+    // Puts the files on the medium and forgets the records.
+    Status checkpoint();
+
+private:
+    // TableJournal.cpp
+    JournalHeader freshHeader() const;
+    Status ensureJournal();
+    Status readHead();
+    Status measure(std::array<std::uint64_t, kTargets> &sizes) const;
+    Status noteOthersWrites();
+    Status captureBefore(Pieces &pieces) const;
+    Status makeRoom(std::size_t length);
+    Status grow(const Pieces &pieces);
+    Status store(const std::vector<Byte> &record, bool withSync);
+    Status abandon(Status failure, bool recordWritten);
+    Status apply(const Pieces &pieces);
+    void finish(const Pieces &pieces, std::size_t length, bool durable);
+    Status newEpoch();
+
+    // TableRecovery.cpp
+    bool restarted() const;
+    Status replayRecords(bool all, bool &rebuild);
+    Result<bool> filesAreOlder(const std::vector<JournalRecord> &records) const;
+    Status takeBackGrowth();
+    Status tidyEnds();
+    Status recountRows(bool restart);
+    Status setTableEnd(std::uint32_t rows);
+    Result<std::uint32_t> countInHeader() const;
+    Result<std::uint32_t> counterInIndex() const;
+    Result<bool> adoptDamaged();
+    Status syncAll();
+    std::uint64_t endOfRows(std::uint32_t rows) const
+    {
+        return m_headerLength + std::uint64_t{rows} * m_recordLength;
+    }
+
+    FileSystem &m_system;
+    Journal m_journal;
+    TargetFiles m_files;
+    JournalHeader m_head; // as last read or written
+    Journal::State m_state = Journal::State::Missing;
+    std::uint64_t m_headerLength;
+    std::uint64_t m_recordLength;
+    std::uint32_t m_shape;
+    bool m_firstUse;
+    bool m_inBulk = false;
+};
+
+} // namespace norvane::engine

@@ -1,0 +1,294 @@
+// Finishing what another station began, without a question.
+#include "db/engine/TableJournal.h"
+
+#include "db/engine/LockPlaces.h"
+
+#include <algorithm>
+
+namespace norvane::engine
+{
+
+namespace
+{
+
+constexpr std::size_t kMemoHead = 8;
+constexpr std::uint64_t kLeastMemo = 512; // bytes of an empty file
+constexpr std::uint64_t kLeastIndex = 3 * 512;
+
+Error unfinished(const std::string &path)
+{
+    return {ErrorKind::ReadOnly, path,
+            "a station ended in the middle of a save; open the folder once where it can be "
+            "written, and the save is finished"};
+}
+
+} // namespace
+
+// True when files written before may have lost their last bytes with the machine.
+bool TableJournal::restarted() const
+{
+    if (m_head.has(JournalHeader::kDurable) && m_head.begun == m_head.applied)
+        return false;
+    const std::uint64_t boot = m_system.bootMark();
+    return boot == 0 ? m_firstUse : m_head.boot != boot;
+}
+
+Result<TableJournal::Need> TableJournal::look(bool readOnly)
+{
+    if (m_inBulk)
+        return Need::Nothing;
+    const Result<Journal::State> state = m_journal.read(m_head, readOnly);
+    if (!state.ok())
+        return state.error();
+    m_state = *state;
+    if (m_state == Journal::State::Missing)
+        return Need::Nothing;
+    const bool doubtful = m_state == Journal::State::Damaged || m_head.shape != m_shape;
+    constexpr std::uint32_t repairs = JournalHeader::kBulk | JournalHeader::kRebuild;
+    const bool repair = doubtful || m_head.has(repairs) || restarted();
+    const bool finish = !doubtful && m_head.begun != m_head.applied;
+    if (readOnly) {
+        // A journal that makes no sense is no reason not to read, a half load is.
+        if (finish || (!doubtful && m_head.has(repairs)))
+            return unfinished(m_files.at(Target::Table)->path());
+        return Need::Nothing;
+    }
+    if (repair)
+        return Need::Repair;
+    return finish ? Need::Finish : Need::Nothing;
+}
+
+Result<bool> TableJournal::recover()
+{
+    if (Status status = readHead(); !status.ok())
+        return status.error();
+    if (m_state == Journal::State::Missing)
+        return false;
+    if (m_state == Journal::State::Damaged || m_head.shape != m_shape)
+        return adoptDamaged();
+    const bool restart = restarted();
+    const bool bulk = m_head.has(JournalHeader::kBulk);
+    bool rebuild = bulk || m_head.has(JournalHeader::kRebuild);
+    Status status = replayRecords(restart || m_head.has(JournalHeader::kForce), rebuild);
+    if (status.ok() && m_head.begun != m_head.applied)
+        status = takeBackGrowth();
+    if (status.ok() && bulk)
+        status = recountRows(restart);
+    if (status.ok() && (restart || bulk))
+        status = tidyEnds();
+    if (!status.ok())
+        return status.error();
+    const Result<std::uint32_t> rows = countInHeader();
+    const Result<std::uint32_t> counter = counterInIndex();
+    if (!rows.ok() || !counter.ok())
+        return rows.ok() ? counter.error() : rows.error();
+    m_head.rows = *rows;
+    m_head.counter = *counter;
+    m_head.begun = m_head.applied;
+    if (rebuild)
+        m_head.flags |= JournalHeader::kRebuild;
+    if (restart || bulk || rebuild)
+        status = checkpoint();
+    else
+        status = m_journal.write(m_head);
+    m_firstUse = false;
+    if (!status.ok())
+        return status.error();
+    return rebuild;
+}
+
+// Either all records since the last checkpoint or the one that was not applied.
+Status TableJournal::replayRecords(bool all, bool &rebuild)
+{
+    const Result<std::vector<JournalRecord>> records =
+        all ? m_journal.records(m_head, kJournalStart, m_head.first)
+            : m_journal.records(m_head, m_head.next, m_head.applied + 1);
+    if (!records.ok())
+        return records.error();
+    const Result<bool> older = all ? filesAreOlder(*records) : Result<bool>(false);
+    if (!older.ok())
+        return older.error();
+    if (*older) {
+        // Files from a backup were put back beside this journal: its saves are not theirs.
+        rebuild = true;
+        m_head.applied = m_head.begun;
+        return {};
+    }
+    const std::uint64_t last =
+        records->empty() ? (all ? m_head.first - 1 : m_head.applied) : records->back().number;
+    if (last < m_head.applied)
+        rebuild = true; // saves are missing here, so what the files hold is doubtful
+    if (last > m_head.applied) {
+        // Its station may have died before the sync: nothing is applied that can still get lost.
+        if (Status status = m_journal.sync(); !status.ok())
+            return status;
+    }
+    const Result<ReplayResult> result =
+        replay(*records, m_files, m_head.has(JournalHeader::kForce));
+    if (!result.ok())
+        return result.error();
+    rebuild = rebuild || result->foreign;
+    if (last > m_head.applied) {
+        m_head.applied = m_head.begun = last;
+        m_head.next = records->back().end;
+    }
+    return {};
+}
+
+// At the last checkpoint all three files were synced, so none can be from before it.
+Result<bool> TableJournal::filesAreOlder(const std::vector<JournalRecord> &records) const
+{
+    const Result<std::uint32_t> counter = counterInIndex();
+    if (!counter.ok())
+        return counter.error();
+    for (const JournalRecord &record : records) {
+        for (const Piece &piece : record.pieces) {
+            if (piece.target == Target::Index && piece.offset == 0 && piece.bytes.size() >= 12)
+                return *counter + 1 < getBe32(&piece.bytes[8]);
+        }
+    }
+    return false;
+}
+
+Status TableJournal::setTableEnd(std::uint32_t rows)
+{
+    File &table = *m_files.at(Target::Table);
+    const std::uint64_t end = endOfRows(rows);
+    const Result<std::uint64_t> size = table.size();
+    if (!size.ok())
+        return size.error();
+    if (*size < end)
+        return {};
+    Byte last = 0;
+    if (*size == end + 1) {
+        const Result<std::size_t> got = table.read(end, ByteSpan(&last, 1));
+        if (!got.ok())
+            return got.error();
+        if (last == kEndOfFile)
+            return {};
+    }
+    last = kEndOfFile;
+    Status status = table.write(end, ByteView(&last, 1));
+    if (status.ok() && *size > end + 1)
+        status = table.resize(end + 1);
+    return status;
+}
+
+// The begun save never came to its commit: the files get their old ends back.
+Status TableJournal::takeBackGrowth()
+{
+    std::array<std::uint64_t, kTargets> sizes{};
+    if (Status status = measure(sizes); !status.ok())
+        return status;
+    const std::array<std::uint64_t, kTargets> &before = m_head.sizes;
+    const Result<std::uint32_t> rows = countInHeader();
+    if (!rows.ok())
+        return rows.error();
+    if (Status status = setTableEnd(*rows); !status.ok())
+        return status;
+    if (sizes[0] > before[0] && before[0] >= kLeastMemo) {
+        // unless another program went on behind it
+        File &memo = *m_files.at(Target::Memo);
+        std::array<Byte, kMemoHead> head{};
+        const Result<std::size_t> got = memo.read(0, head);
+        if (!got.ok())
+            return got.error();
+        const std::uint64_t next = std::uint64_t{getBe32(head.data())} * getBe16(&head[6]);
+        if (next <= before[0]) {
+            if (Status status = memo.resize(before[0]); !status.ok())
+                return status;
+        }
+    }
+    if (sizes[2] > before[2] && before[2] >= kLeastIndex) {
+        const Result<std::uint32_t> counter = counterInIndex();
+        if (!counter.ok())
+            return counter.error();
+        if (*counter == m_head.counter)
+            return m_files.at(Target::Index)->resize(before[2]);
+    }
+    return {};
+}
+
+// After a restart nothing is known of growth that was not committed.
+Status TableJournal::tidyEnds()
+{
+    const Result<std::uint32_t> rows = countInHeader();
+    if (!rows.ok())
+        return rows.error();
+    if (Status status = setTableEnd(*rows); !status.ok())
+        return status;
+    File *memo = m_files.at(Target::Memo);
+    if (!memo)
+        return {};
+    std::array<Byte, kMemoHead> head{};
+    const Result<std::size_t> got = memo->read(0, head);
+    const Result<std::uint64_t> size = memo->size();
+    if (!got.ok() || !size.ok())
+        return got.ok() ? size.error() : got.error();
+    const std::uint64_t block = getBe16(&head[6]);
+    if (block == 0 || *got < head.size() || *size >= kLockByte)
+        return {};
+    const std::uint64_t end = (*size + block - 1) / block;
+    if (getBe32(head.data()) == end)
+        return {};
+    putBe32(head.data(), static_cast<std::uint32_t>(end));
+    return memo->write(0, ByteView(head).first(4));
+}
+
+// A load broke off: rows that stand in the file count, up to the first that is none. When the
+// machine went down with it only those from before the load are known to be whole.
+Status TableJournal::recountRows(bool restart)
+{
+    File &table = *m_files.at(Target::Table);
+    const Result<std::uint64_t> size = table.size();
+    if (!size.ok())
+        return size.error();
+    const std::uint64_t body = *size > m_headerLength ? *size - m_headerLength : 0;
+    const auto most = static_cast<std::uint32_t>(body / m_recordLength);
+    std::uint32_t rows = std::min(m_head.rows, most);
+    for (; rows < most && !restart; ++rows) {
+        Byte flag = 0;
+        const Result<std::size_t> got = table.read(endOfRows(rows), ByteSpan(&flag, 1));
+        if (!got.ok())
+            return got.error();
+        if (flag != kLiveRow && flag != kDeletedRow)
+            break;
+    }
+    const std::vector<Byte> bytes = makeDateAndCount(today(), rows);
+    return table.write(kCountPlace, bytes);
+}
+
+// It may have held an unfinished save, so what can be worked out from the rows is.
+Result<bool> TableJournal::adoptDamaged()
+{
+    if (Status status = m_journal.setAside(); !status.ok())
+        return status.error();
+    m_head = freshHeader();
+    const Result<std::uint32_t> rows = countInHeader();
+    const Result<std::uint32_t> counter = counterInIndex();
+    if (!rows.ok() || !counter.ok())
+        return rows.ok() ? counter.error() : rows.error();
+    m_head.rows = *rows;
+    m_head.counter = *counter;
+    m_head.flags = JournalHeader::kRebuild;
+    if (Status status = m_journal.create(m_head, true); !status.ok())
+        return status.error();
+    m_state = Journal::State::Sound;
+    if (Status status = tidyEnds(); !status.ok())
+        return status.error();
+    return true;
+}
+
+Status TableJournal::rebuilt()
+{
+    const Result<std::uint32_t> counter = counterInIndex();
+    if (!counter.ok())
+        return counter.error();
+    m_head.counter = *counter;
+    if (Status status = syncAll(); !status.ok())
+        return status;
+    m_head.flags &= ~JournalHeader::kRebuild;
+    return newEpoch();
+}
+
+} // namespace norvane::engine

@@ -1,0 +1,348 @@
+#include "engine/SimDisk.h"
+
+#include <algorithm>
+
+namespace enginetest
+{
+
+namespace
+{
+
+constexpr std::size_t kSectorLength = 512;
+
+using Change = SimDisk::Change;
+
+// One file while a power cut is worked out.
+struct Medium {
+    std::vector<Byte> safe;       // as synced
+    std::vector<Change> unsynced; // since
+};
+
+void perform(const Change &change, std::vector<Byte> &bytes)
+{
+    if (change.kind == Change::Kind::Resize) {
+        bytes.resize(change.offset);
+        return;
+    }
+    if (bytes.size() < change.offset + change.bytes.size())
+        bytes.resize(change.offset + change.bytes.size());
+    std::copy(change.bytes.begin(), change.bytes.end(),
+              bytes.begin() + static_cast<std::ptrdiff_t>(change.offset));
+}
+
+void sync(Medium &medium)
+{
+    for (const Change &change : medium.unsynced)
+        perform(change, medium.safe);
+    medium.unsynced.clear();
+}
+
+// Each sector and the length of the file stop at an unsynced change of their own.
+std::vector<Byte> cut(const Medium &medium, std::uint32_t mode, std::mt19937 &random)
+{
+    const std::size_t count = medium.unsynced.size();
+    if (count == 0 || mode == 0)
+        return medium.safe;
+    const auto chosen = [&]() -> std::size_t {
+        if (mode == 1)
+            return count; // all
+        if (mode == 2)
+            return random() % 2 * count; // each sector old or new
+        if (mode == 3)
+            return random() % 8 == 0 ? random() % (count + 1) : count; // most are new
+        return random() % (count + 1);
+    };
+    std::size_t size = medium.safe.size();
+    for (std::size_t i = 0, stop = chosen(); i < stop; ++i) {
+        const Change &change = medium.unsynced[i];
+        size = change.kind == Change::Kind::Resize
+                   ? change.offset
+                   : std::max<std::size_t>(size, change.offset + change.bytes.size());
+    }
+    std::vector<Byte> bytes = medium.safe;
+    bytes.resize(size);
+    std::map<std::size_t, std::size_t> stops;
+    for (std::size_t i = 0; i < count; ++i) {
+        const Change &change = medium.unsynced[i];
+        for (std::size_t at = 0; at < change.bytes.size();) {
+            const std::size_t place = change.offset + at;
+            const std::size_t sector = place / kSectorLength;
+            const std::size_t end =
+                std::min((sector + 1) * kSectorLength - change.offset, change.bytes.size());
+            const auto stop = stops.find(sector);
+            const std::size_t last = stop == stops.end() ? stops[sector] = chosen() : stop->second;
+            for (; at < end; ++at) {
+                if (i < last && change.offset + at < size)
+                    bytes[change.offset + at] = change.bytes[at];
+            }
+        }
+    }
+    return bytes;
+}
+
+} // namespace
+
+std::size_t SimDisk::locksHeld() const
+{
+    std::size_t count = 0;
+    for (const auto &[path, content] : files)
+        count += content->locks.size();
+    return count;
+}
+
+std::unique_ptr<SimDisk> SimDisk::copy() const
+{
+    auto other = std::make_unique<SimDisk>();
+    other->boot = boot;
+    for (const auto &[path, content] : files)
+        other->files[path] = std::make_shared<Content>(Content{content->bytes, {}});
+    return other;
+}
+
+std::unique_ptr<SimDisk> SimDisk::afterPowerCut(const SimDisk &base,
+                                                const std::vector<Change> &changes,
+                                                std::size_t count, std::uint32_t seed)
+{
+    std::map<std::string, Medium> media;
+    for (const auto &[path, content] : base.files)
+        media[path].safe = content->bytes;
+    for (std::size_t i = 0; i < count; ++i) {
+        const Change &change = changes[i];
+        switch (change.kind) {
+        case Change::Kind::Sync:
+            sync(media[change.path]);
+            break;
+        case Change::Kind::Remove:
+            media.erase(change.path);
+            break;
+        case Change::Kind::Rename:
+            media[change.to] = std::move(media[change.path]);
+            media.erase(change.path);
+            break;
+        case Change::Kind::Make:
+            media[change.path] = {};
+            break;
+        default:
+            media[change.path].unsynced.push_back(change);
+        }
+    }
+    std::mt19937 random(seed);
+    auto disk = std::make_unique<SimDisk>();
+    disk->boot = base.boot + 1;
+    const std::uint32_t mode = seed % 5;
+    for (const auto &[path, medium] : media)
+        disk->files[path] = std::make_shared<Content>(Content{cut(medium, mode, random), {}});
+    return disk;
+}
+
+class SimFile final : public File
+{
+public:
+    SimFile(SimStation &station, std::string path, std::shared_ptr<SimDisk::Content> content,
+            bool readOnly)
+        : m_station(station),
+          m_path(std::move(path)),
+          m_content(std::move(content)),
+          m_readOnly(readOnly)
+    {
+    }
+    ~SimFile() override { dropLocks(); }
+
+    Result<std::size_t> read(std::uint64_t offset, ByteSpan into) override
+    {
+        if (Status status = called(false); !status.ok())
+            return status.error();
+        const std::vector<Byte> &bytes = m_content->bytes;
+        if (offset >= bytes.size())
+            return std::size_t{0};
+        const std::size_t count = std::min<std::size_t>(into.size(), bytes.size() - offset);
+        std::copy_n(bytes.begin() + static_cast<std::ptrdiff_t>(offset), count, into.begin());
+        return count;
+    }
+
+    Status write(std::uint64_t offset, ByteView bytes) override
+    {
+        if (m_readOnly)
+            return Error{ErrorKind::ReadOnly, m_path, "opened for reading only"};
+        bool partial = false;
+        Status status = called(true, &partial);
+        if (!status.ok() && !partial)
+            return status;
+        // what a full disk still took: whole sectors
+        const std::uint64_t half = (offset + bytes.size() / 2) / kSectorLength * kSectorLength;
+        const std::size_t length = status.ok() ? bytes.size() : half > offset ? half - offset : 0;
+        change({SimDisk::Change::Kind::Write,
+                m_path,
+                offset,
+                {bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(length)},
+                {}});
+        return status;
+    }
+
+    Result<std::uint64_t> size() override
+    {
+        if (Status status = called(false); !status.ok())
+            return status.error();
+        return std::uint64_t{m_content->bytes.size()};
+    }
+
+    Status resize(std::uint64_t size) override
+    {
+        if (m_readOnly)
+            return Error{ErrorKind::ReadOnly, m_path, "opened for reading only"};
+        if (Status status = called(true); !status.ok())
+            return status;
+        change({SimDisk::Change::Kind::Resize, m_path, size, {}, {}});
+        return {};
+    }
+
+    Status sync() override
+    {
+        if (Status status = called(true); !status.ok())
+            return status;
+        if (m_station.m_disk.recording)
+            m_station.m_disk.changes.push_back({SimDisk::Change::Kind::Sync, m_path, 0, {}, {}});
+        return {};
+    }
+
+    Status tryLock(std::uint64_t offset, std::uint64_t length, LockMode mode) override
+    {
+        if (Status status = called(false); !status.ok())
+            return status;
+        for (const SimDisk::Lock &lock : m_content->locks) {
+            const bool apart =
+                lock.offset + lock.length <= offset || offset + length <= lock.offset;
+            const bool shared = lock.mode == LockMode::Shared && mode == LockMode::Shared;
+            if (lock.owner != this && !apart && !shared)
+                return Error{ErrorKind::Locked, m_path, "locked by another", -1};
+        }
+        dropLock(offset);
+        m_content->locks.push_back({this, offset, length, mode});
+        return {};
+    }
+
+    Status unlock(std::uint64_t offset, std::uint64_t) override
+    {
+        dropLock(offset); // the system gives them back in any case
+        return called(false);
+    }
+
+    const std::string &path() const override { return m_path; }
+    bool readOnly() const override { return m_readOnly; }
+
+private:
+    Status called(bool changes, bool *partial = nullptr)
+    {
+        Status status = m_station.call(changes, partial);
+        if (m_station.dead())
+            dropLocks();
+        return status;
+    }
+    void change(SimDisk::Change change)
+    {
+        perform(change, m_content->bytes);
+        if (m_station.m_disk.recording)
+            m_station.m_disk.changes.push_back(std::move(change));
+    }
+    void dropLocks()
+    {
+        std::erase_if(m_content->locks, [this](const auto &lock) { return lock.owner == this; });
+    }
+    void dropLock(std::uint64_t offset)
+    {
+        std::erase_if(m_content->locks, [this, offset](const auto &lock) {
+            return lock.owner == this && lock.offset == offset;
+        });
+    }
+
+    SimStation &m_station;
+    std::string m_path;
+    std::shared_ptr<SimDisk::Content> m_content;
+    bool m_readOnly;
+};
+
+void SimStation::dieAt(int call)
+{
+    m_dieAt = call == 0 ? 0 : m_calls + call;
+}
+
+void SimStation::failAt(int call, ErrorKind kind, bool forEver)
+{
+    m_failAt = m_calls + call;
+    m_kind = kind;
+    m_forEver = forEver;
+    m_failed = false;
+}
+
+void SimStation::mend()
+{
+    m_failAt = 0;
+}
+
+Status SimStation::call(bool changes, bool *partial)
+{
+    ++m_calls;
+    if (m_dieAt != 0 && m_calls >= m_dieAt)
+        m_dead = true;
+    if (m_dead)
+        return Error{ErrorKind::Gone, {}, "the station died"};
+    if (m_failAt == 0 || m_calls < m_failAt || (m_calls > m_failAt && !m_forEver))
+        return {};
+    if (m_kind == ErrorKind::NoSpace && !changes)
+        return {};
+    m_failed = true;
+    if (partial)
+        *partial = m_kind == ErrorKind::NoSpace;
+    return Error{m_kind, {}, "it failed"};
+}
+
+Result<std::unique_ptr<File>> SimStation::open(const std::string &path, OpenMode mode)
+{
+    if (Status status = call(mode == OpenMode::CreateNew); !status.ok())
+        return status.error();
+    const auto found = m_disk.files.find(path);
+    if (mode == OpenMode::CreateNew) {
+        if (found != m_disk.files.end())
+            return Error{ErrorKind::Io, path, "the file exists"};
+        m_disk.files[path] = std::make_shared<SimDisk::Content>();
+        if (m_disk.recording)
+            m_disk.changes.push_back({SimDisk::Change::Kind::Make, path, 0, {}, {}});
+    } else if (found == m_disk.files.end()) {
+        return Error{ErrorKind::NotFound, path, "no such file"};
+    }
+    return std::unique_ptr<File>(
+        std::make_unique<SimFile>(*this, path, m_disk.files[path], mode == OpenMode::ReadOnly));
+}
+
+Result<std::string> SimStation::findIgnoringCase(const std::string &path)
+{
+    if (m_disk.has(path))
+        return path;
+    return Error{ErrorKind::NotFound, path, "no such file"};
+}
+
+Status SimStation::rename(const std::string &from, const std::string &to)
+{
+    if (Status status = call(true); !status.ok())
+        return status;
+    if (!m_disk.has(from))
+        return Error{ErrorKind::NotFound, from, "no such file"};
+    m_disk.files[to] = m_disk.files[from];
+    m_disk.files.erase(from);
+    if (m_disk.recording)
+        m_disk.changes.push_back({SimDisk::Change::Kind::Rename, from, 0, {}, to});
+    return {};
+}
+
+Status SimStation::remove(const std::string &path)
+{
+    if (Status status = call(true); !status.ok())
+        return status;
+    if (m_disk.files.erase(path) == 0)
+        return Error{ErrorKind::NotFound, path, "no such file"};
+    if (m_disk.recording)
+        m_disk.changes.push_back({SimDisk::Change::Kind::Remove, path, 0, {}, {}});
+    return {};
+}
+
+} // namespace enginetest

@@ -1,0 +1,98 @@
+// A disk in memory with several stations on it: a station can die at any call, a call can fail,
+// and the disk can be had as a power cut would leave it.
+#pragma once
+
+#include "db/engine/File.h"
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <random>
+#include <string>
+#include <vector>
+
+namespace enginetest
+{
+
+using namespace norvane::engine;
+
+class SimDisk
+{
+public:
+    struct Lock {
+        const void *owner;
+        std::uint64_t offset;
+        std::uint64_t length;
+        LockMode mode;
+    };
+    struct Content {
+        std::vector<Byte> bytes;
+        std::vector<Lock> locks;
+    };
+    using Contents = std::map<std::string, std::shared_ptr<Content>>;
+
+    // One call that changed something, for power cuts.
+    struct Change {
+        enum class Kind { Write, Resize, Sync, Make, Remove, Rename } kind;
+        std::string path;
+        std::uint64_t offset = 0; // Resize: the new size
+        std::vector<Byte> bytes;
+        std::string to; // Rename
+    };
+
+    Contents files;
+    std::uint64_t boot = 1;
+    bool recording = false;
+    std::vector<Change> changes;
+
+    std::vector<Byte> &bytes(const std::string &path) { return files.at(path)->bytes; }
+    bool has(const std::string &path) const { return files.count(path) != 0; }
+    std::size_t locksHeld() const;
+
+    // A disk of its own with the same contents and no locks.
+    std::unique_ptr<SimDisk> copy() const;
+    // `base` after the first `count` of `changes` and a power cut: of what was not synced each
+    // sector has any of the contents it had since. The machine has started again.
+    static std::unique_ptr<SimDisk> afterPowerCut(const SimDisk &base,
+                                                  const std::vector<Change> &changes,
+                                                  std::size_t count, std::uint32_t seed);
+};
+
+// The files as one station sees them.
+class SimStation final : public FileSystem
+{
+public:
+    explicit SimStation(SimDisk &disk) : m_disk(disk) {}
+
+    // The n-th call from now on is the last that this station does not make; 0: lives on.
+    void dieAt(int call);
+    bool dead() const { return m_dead; }
+    // The n-th call fails with `kind`, and when `forEver` all later ones.
+    void failAt(int call, ErrorKind kind, bool forEver);
+    bool failed() const { return m_failed; }
+    void mend();
+    int calls() const { return m_calls; }
+    void restartCount() { m_calls = 0; }
+
+    Result<std::unique_ptr<File>> open(const std::string &path, OpenMode mode) override;
+    Result<std::string> findIgnoringCase(const std::string &path) override;
+    Status rename(const std::string &from, const std::string &to) override;
+    Status remove(const std::string &path) override;
+    std::uint64_t bootMark() override { return m_disk.boot; }
+
+private:
+    friend class SimFile;
+    // Counts a call; an error when it is not to happen. `partial`: part of it happens all the same.
+    Status call(bool changes, bool *partial = nullptr);
+
+    SimDisk &m_disk;
+    int m_calls = 0;
+    int m_dieAt = 0;
+    int m_failAt = 0;
+    ErrorKind m_kind = ErrorKind::Io;
+    bool m_forEver = false;
+    bool m_failed = false;
+    bool m_dead = false;
+};
+
+} // namespace enginetest

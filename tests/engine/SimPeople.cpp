@@ -1,0 +1,192 @@
+#include "engine/SimPeople.h"
+
+#include "db/engine/TableCreate.h"
+
+#include <gtest/gtest.h>
+
+namespace enginetest
+{
+
+namespace
+{
+
+bool fill(Handle table, const Person &person)
+{
+    assign(table, "name", person.name);
+    assign(table, "city", person.city);
+    assignMemo(table, "notes", person.notes);
+    assignMemo(table, "detail", person.detail);
+    return text(table, "name") == person.name; // assigning needs the row, which may be lost
+}
+
+bool performOn(Handle table, const Save &save)
+{
+    if (save.kind == Save::Kind::Insert) {
+        d4appendStartVB(table, 0);
+        d4blank(table);
+        f4assignLong(d4field(table, "rowid"), save.id);
+        if (!fill(table, save.person) || d4append(table) != r4success)
+            return false;
+        (void)d4unlock(table);
+        return true;
+    }
+    if (findPerson(table, save.id) != r4success || d4lock(table, d4recNo(table)) != r4success)
+        return false;
+    const bool filled =
+        save.kind == Save::Kind::Update ? fill(table, save.person) : d4delete(table) == r4success;
+    const bool done = filled && d4flush(table) == r4success;
+    if (!done)
+        d4discard(table);
+    (void)d4unlock(table);
+    return done;
+}
+
+std::string readPeople(Handle table, People &people)
+{
+    for (std::uint32_t record = 1; record <= d4recCountDo(table); ++record) {
+        if (d4go(table, record) != r4success)
+            return "row " + std::to_string(record) + " cannot be read";
+        if (d4deleted(table))
+            continue;
+        const int id = f4long(d4field(table, "rowid"));
+        const Person person{text(table, "name"), text(table, "city"), memo(table, "notes"),
+                            memo(table, "detail")};
+        if (!people.emplace(id, person).second)
+            return "row " + std::to_string(id) + " is there twice";
+    }
+    return {};
+}
+
+std::string difference(const People &expected, const People &actual)
+{
+    for (const auto &[id, person] : expected) {
+        const auto found = actual.find(id);
+        if (found == actual.end())
+            return "row " + std::to_string(id) + " is lost";
+        if (found->second != person)
+            return "row " + std::to_string(id) + " is not as it was saved: " + found->second.name +
+                   ", " + found->second.city + ", " + std::to_string(found->second.notes.size()) +
+                   " bytes, " + std::to_string(found->second.detail.size()) + " bytes";
+    }
+    return expected.size() == actual.size() ? "" : "there are rows that nobody saved";
+}
+
+} // namespace
+
+std::unique_ptr<SimDisk> diskWithPeople()
+{
+    auto disk = std::make_unique<SimDisk>();
+    SimStation maker(*disk);
+    const Status made =
+        createTable(maker, peopleTable(), {kPeoplePath, "/people.cdx", "/people.fpt"});
+    EXPECT_TRUE(made.ok()) << made.error().detail;
+    return disk;
+}
+
+Save insertOf(int id, const std::string &notes)
+{
+    const std::string number = std::to_string(id * 7919 % 1000);
+    return {Save::Kind::Insert, id, {"Name " + number, "City " + number, notes, {}}};
+}
+
+Save randomSave(const People &people, std::mt19937 &random)
+{
+    const auto number = [&random](unsigned below) { return static_cast<int>(random() % below); };
+    const auto note = [&] {
+        const int kind = number(4);
+        const int length = kind == 0 ? 0 : kind == 3 ? number(3000) : number(90);
+        return std::string(static_cast<std::size_t>(length), static_cast<char>('a' + number(26)));
+    };
+    const int choice = number(10);
+    if (people.size() < 3 || choice < 4) {
+        const int id = (people.empty() ? 0 : people.rbegin()->first) + 1;
+        Save save = insertOf(id, note());
+        save.person.detail = note();
+        return save;
+    }
+    auto chosen = people.begin();
+    std::advance(chosen, number(static_cast<unsigned>(people.size())));
+    if (choice == 9)
+        return {Save::Kind::Delete, chosen->first, {}};
+    Save save{Save::Kind::Update, chosen->first, chosen->second};
+    if (number(2) == 0)
+        save.person.name = "Name " + std::to_string(number(1000));
+    if (number(3) == 0)
+        save.person.notes = note();
+    if (number(3) == 0)
+        save.person.detail = note();
+    save.person.city = "City " + std::to_string(number(40));
+    return save;
+}
+
+void note(People &people, const Save &save)
+{
+    if (save.kind == Save::Kind::Delete)
+        people.erase(save.id);
+    else
+        people[save.id] = save.person;
+}
+
+SimSession::SimSession(SimDisk &disk, const char *durability)
+    : station(disk), m_handle(d4init_v(&station))
+{
+    code4lockAttempts(m_handle, 1);
+    code4lockDelay(m_handle, 1);
+    code4durability(m_handle, durability);
+}
+
+SimSession::~SimSession()
+{
+    d4initUndo(m_handle);
+}
+
+bool SimSession::perform(const Save &save)
+{
+    const Handle table = d4open(m_handle, kPeoplePath);
+    if (table == 0)
+        return false;
+    const bool done = d4tag(table, "rowid") > 0 && performOn(table, save);
+    (void)d4close(table);
+    return done;
+}
+
+void SimSession::look()
+{
+    const Handle table = d4open(m_handle, kPeoplePath);
+    if (table == 0)
+        return;
+    d4tagSelect(table, d4tag(table, "rowid"));
+    (void)d4top(table);
+    (void)d4close(table);
+}
+
+std::string compare(SimDisk &disk, const People &expected, const People *other, bool *found)
+{
+    const SimSession session(disk);
+    const Handle table = d4open(session, kPeoplePath);
+    if (table == 0)
+        return "cannot be opened: " + lastError(session).detail;
+    // the look at the index is what finishes a save that was under way
+    selectTag(table, "rowid");
+    (void)d4top(table);
+    d4tagSelect(table, 0);
+    std::string problem;
+    for (const std::string &finding : d4check(table))
+        problem += finding + "; ";
+    People actual;
+    if (problem.empty())
+        problem = readPeople(table, actual);
+    if (!problem.empty())
+        return problem;
+    if (found)
+        *found = false;
+    problem = difference(expected, actual);
+    if (problem.empty() || !other || *other == expected)
+        return problem;
+    const std::string second = difference(*other, actual);
+    if (found)
+        *found = second.empty();
+    return second.empty() ? "" : problem + " (and after the save: " + second + ")";
+}
+
+} // namespace enginetest
