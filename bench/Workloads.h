@@ -25,6 +25,7 @@ struct Ground {
     int rows = 0;
     int customers = 0;
     bool filled = false;
+    int round = 0; // counts through all workloads
 };
 
 struct Workload {

@@ -95,7 +95,7 @@ Line measure(const Workload &work, Ground &ground)
     ground.sqlite->setDurable(work.durable);
     Line line;
     const auto best = [](double a, double b) { return a == 0 ? b : std::min(a, b); };
-    for (int round = 0; round < work.rounds; ++round) {
+    for (int round = 0; round < work.rounds; ++round, ++ground.round) {
         const Measured ours = work.run(*ground.ours, ground);
         const Measured sqlite = work.run(*ground.sqlite, ground);
         if (ours.found != sqlite.found)
