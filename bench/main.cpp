@@ -118,7 +118,7 @@ std::string figure(double value, const char *unit, bool tsv)
     if (tsv)
         std::snprintf(text, sizeof text, "%.6g", value);
     else
-        std::snprintf(text, sizeof text, value < 10 ? "%.3f %s" : "%.1f %s", value, unit);
+        std::snprintf(text, sizeof text, value < 1000 ? "%.3g %s" : "%.0f %s", value, unit);
     return text;
 }
 
