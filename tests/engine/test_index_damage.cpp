@@ -116,3 +116,27 @@ TEST(IndexDamage, APageThatLeadsBackToItselfIsDamage)
     EXPECT_EQ(found.error().place, root);
     EXPECT_FALSE(checkIndex(*index, rowsOf(rows))->empty());
 }
+
+TEST(IndexDamage, APageThatIsItsOwnNeighbourIsDamage)
+{
+    const RowLayout plain = makeLayout({{"KEY", 'C', 240}});
+    std::map<std::uint32_t, std::string> rows;
+    for (std::uint32_t n = 1; n <= 3; ++n)
+        rows[n] =
+            makeRow(plain, {std::string(1, static_cast<char>('A' + n)) + std::string(199, 'x')});
+    const auto file = memoryFile();
+    ASSERT_TRUE(buildIndex(*file, plain, {{"KEY", "KEY", ""}}, rowsOf(rows)).ok());
+    // Both entries of the root lead to its first leaf, which names itself as its neighbour.
+    const std::uint32_t root = 1536 + 1024;
+    std::array<Byte, 4> place{};
+    ASSERT_TRUE(file->read(root + 12 + 244, place).ok());
+    const std::uint32_t leaf = getBe32(place.data());
+    ASSERT_TRUE(file->write(root + 12 + 248 + 244, place).ok());
+    putLe32(place.data(), leaf);
+    ASSERT_TRUE(file->write(leaf + 8, place).ok());
+    const auto index = std::move(*IndexFile::open(file, plain));
+    ASSERT_TRUE(index->refresh().ok());
+    EXPECT_EQ(index->remove(0, rows[1].substr(1), 1).error().kind, ErrorKind::Damaged);
+    index->discard();
+    EXPECT_FALSE(checkIndex(*index, rowsOf(rows))->empty());
+}
