@@ -12,22 +12,22 @@ namespace norvane::engine
 
 enum class ErrorKind {
     None,
-    NotFound,   // no such file, field, tag or row
-    Locked,     // held by another session after all attempts
-    ReadOnly,   // the file or folder refuses writing
-    Damaged,    // bytes that make no sense for the format
-    Refused,    // valid, but outside what this engine supports (an expression, a table kind)
-    NoSpace,    // disk or quota full
-    TooLarge,   // a file would grow into its lock bytes
-    Gone,       // the file or its folder went away while open
-    Misuse,     // wrong handle, a write without its lock
-    Io          // any other failure of the system
+    NotFound, // no such file, field, tag or row
+    Locked,   // held by another session after all attempts
+    ReadOnly, // the file or folder refuses writing
+    Damaged,  // bytes that make no sense for the format
+    Refused,  // valid, but outside what this engine supports (an expression, a table kind)
+    NoSpace,  // disk or quota full
+    TooLarge, // a file would grow into its lock bytes
+    Gone,     // the file or its folder went away while open
+    Misuse,   // wrong handle, a write without its lock
+    Io        // any other failure of the system
 };
 
 struct Error {
     ErrorKind kind = ErrorKind::None;
-    std::string file;       // path, empty when none is concerned
-    std::string detail;     // technical sentence in English
+    std::string file;        // path, empty when none is concerned
+    std::string detail;      // technical sentence in English
     std::int64_t place = -1; // byte offset or record number in the file, -1 when not known
 
     explicit operator bool() const { return kind != ErrorKind::None; }

@@ -44,6 +44,11 @@ public:
     // Rows by the header as last read, never more than the file holds.
     std::uint32_t count() const { return m_count; }
     Status refreshCount();
+    // Damaged when the header counts rows that the file does not hold, or when more rows lie
+    // behind the count than the one that an interrupted append leaves. REQUIRES: a fresh count.
+    Status checkCount();
+    // Counts what the file holds, such rows with it. REQUIRES: exclusive().
+    Status mendCount();
     // Reads rows into `into`; fewer bytes than asked for are Damaged.
     Status readRows(std::uint32_t first, ByteSpan into);
     Status writeRow(std::uint32_t record, ByteView row);
@@ -51,7 +56,7 @@ public:
     Status appendRow(ByteView row);
     // Takes the row just appended away again.
     void undoAppend();
-    // Refuses a table that is full. REQUIRES: a fresh count.
+    // Refuses a table that is full or has a wrong count. REQUIRES: a fresh count.
     Status checkRoom();
     // Brings the header's date of change to this day. REQUIRES: append lock.
     Status writeDate();
@@ -96,6 +101,8 @@ private:
 
     Status openBeside();
     Status openIndex(const std::string &path, bool readOnly);
+    Status takeCount(std::uint32_t claimed);
+    Result<std::uint32_t> rowsBehind(std::uint32_t most);
     Status writeCount(std::uint32_t count);
     Status writeOutCount();
 
@@ -103,7 +110,8 @@ private:
     LockedFile m_table;
     TableHeader m_header;
     std::uint32_t m_count = 0;
-    std::uint64_t m_size = 0; // bytes, as of the last look
+    std::uint32_t m_claimed = 0; // the header's count, as of the last look
+    std::uint64_t m_size = 0;    // bytes, as of the last look
     std::optional<LockedFile> m_indexFile;
     std::shared_ptr<UndoFile> m_indexWrites; // the same file
     std::unique_ptr<IndexFile> m_index;
