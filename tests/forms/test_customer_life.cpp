@@ -4,6 +4,7 @@
 #include "common/ui/FormWindow.h"
 #include "db/Screens.h"
 
+#include <QDir>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMdiArea>
@@ -84,6 +85,35 @@ TEST_F(CustomerForm, ApplyEndsTheEditAndTheNextOneTakesANewMark)
         EXPECT_FALSE(find<QPushButton>("cmdApply")->isEnabled());
         EXPECT_EQ(stored(id, "city"), city);
     }
+}
+
+// Lists and labels are read from two tables many times; each is told of once.
+TEST_F(CustomerForm, AFolderThatGoesAwayIsToldOnceATableAndCostsNoTypedText)
+{
+    const qint32 id = database.addCustomer({{"company", "Acme"}});
+    open(id);
+    const QDir folder(database.path());
+    const QString elsewhere = folder.path() + QLatin1String(".away");
+    ASSERT_TRUE(QDir().rename(folder.path(), elsewhere));
+    for (const char *file : {"nvncat.dbf", "nvnparam.dbf", "nvncust.dbf"})
+        person.expect(QStringLiteral("Unable to open: ") + database.file(QLatin1String(file)));
+    person.expectText("Record cannot be accessed");
+    click("cmdRefresh");
+    EXPECT_EQ(person.left(), 0);
+
+    ASSERT_TRUE(QDir().rename(elsewhere, folder.path()));
+    click("lblEdit");
+    type("txtCity", "Bern");
+    ASSERT_TRUE(QDir().rename(folder.path(), elsewhere));
+    person.expect("Unable to open");
+    person.expectText("Record cannot be accessed");
+    click("cmdApply");
+    EXPECT_TRUE(form->inEditMode());
+    EXPECT_EQ(find<QLineEdit>("txtCity")->text(), "Bern");
+
+    ASSERT_TRUE(QDir().rename(elsewhere, folder.path()));
+    click("cmdApply");
+    EXPECT_EQ(stored(id, "city"), "Bern");
 }
 
 TEST_F(CustomerForm, OkSavesAndCloses)

@@ -105,6 +105,7 @@ void RecordForm::LoadData()
 {
     guarded(context("LoadData").constData(), [this] {
         const Hourglass hourglass;
+        const clsDB::TellOnce tellOnce(gDB);
         InitControls();
         if (m_rowid > 0) {
             SetTagVariant();
