@@ -140,3 +140,35 @@ TEST(IndexDamage, APageThatIsItsOwnNeighbourIsDamage)
     index->discard();
     EXPECT_FALSE(checkIndex(*index, rowsOf(rows))->empty());
 }
+
+TEST(IndexDamage, AFailedRemovalLeavesNoPageHalfChanged)
+{
+    std::map<std::uint32_t, std::string> rows;
+    for (std::uint32_t n = 1; n <= 40; ++n) // eight a leaf
+        rows[n] = makeRow(layout,
+                          {std::string(1, static_cast<char>(' ' + n)) + std::string(55, '#'), ""});
+    const auto file = memoryFile();
+    ASSERT_TRUE(buildIndex(*file, layout, {tags[0]}, rowsOf(rows)).ok());
+    // The third leaf names a wrong neighbour, so the second cannot leave the tree.
+    const std::uint32_t root = 1536 + 1024;
+    std::array<Byte, 4> child{};
+    ASSERT_TRUE(file->read(root + 12 + 2 * 68 + 64, child).ok());
+    const std::uint32_t third = getBe32(child.data());
+    ASSERT_TRUE(file->write(third + 4, std::array<Byte, 4>{}).ok());
+    const auto index = std::move(*IndexFile::open(file, layout));
+    ASSERT_TRUE(index->refresh().ok());
+    auto left = *walk(*index, 0);
+    ASSERT_EQ(left.size(), rows.size());
+    // Most of the second leaf goes, then half of the first: now the two want to be one.
+    Status removed;
+    for (const std::size_t place : {8u, 8u, 8u, 8u, 8u, 0u, 0u, 0u, 0u}) {
+        removed = index->remove(0, left[place].key, left[place].record);
+        if (!removed.ok())
+            break;
+        ASSERT_TRUE(index->commit().ok());
+        left.erase(left.begin() + static_cast<std::ptrdiff_t>(place));
+    }
+    EXPECT_EQ(removed.error().kind, ErrorKind::Damaged);
+    index->discard();
+    EXPECT_EQ(*walk(*index, 0), left);
+}

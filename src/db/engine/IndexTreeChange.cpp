@@ -229,8 +229,9 @@ Result<bool> IndexTree::merge(const TreePath &path, std::size_t level, bool with
         return false;
     if (left.right != right.offset)
         return m_pages.damaged("a page has a wrong neighbour", left.offset);
-    left.absorb(right);
     m_pages.touch(left);
+    m_pages.touch(right); // at once: should taking it out fail, both are read again
+    left.absorb(right);
     syncParents(leftPath, level);
     return true;
 }
