@@ -88,9 +88,7 @@ int run(const Arguments &arguments, Console &console)
         arguments.has(QStringLiteral("--csv")) ? RowFormat::Csv : RowFormat::Json;
     const bool whole = dumpTable(table, format, console) && !damaged;
     db.CloseTable(table);
-    if (console.out.status() != QTextStream::Ok)
-        console.err << QStringLiteral("The output could not be written.\n");
-    else if (!whole)
+    if (!whole && console.out.status() == QTextStream::Ok)
         console.err << QStringLiteral("The table '%1' could not be read in full.\n").arg(file);
     return whole ? Done : Problem;
 }
