@@ -162,7 +162,8 @@ public:
     // ---- lookup lists (clsDBLookups.cpp)
     void LoadLV(ListSink &list, const QString &path, const QString &keyField,
                 const QString &textField, qint32 type, bool clear = false);
-    void LoadCbo(ListSink &combo, const QString &path, const QString &keyField,
+    // False when the list could not be read to its end; that was or will be told.
+    bool LoadCbo(ListSink &combo, const QString &path, const QString &keyField,
                  const QString &textField, const QString &typeField, qint32 type,
                  bool clear = false, bool addBlank = false, qint32 selectId = 0);
     void LoadCbo_Users(ListSink &combo, bool clear = false, bool activeOnly = false);

@@ -5,6 +5,7 @@
 #include "db/Screens.h"
 
 #include <QDir>
+#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMdiArea>
@@ -114,6 +115,24 @@ TEST_F(CustomerForm, AFolderThatGoesAwayIsToldOnceATableAndCostsNoTypedText)
     ASSERT_TRUE(QDir().rename(elsewhere, folder.path()));
     click("cmdApply");
     EXPECT_EQ(stored(id, "city"), "Bern");
+}
+
+// Saving would store the gaps that a list left on the screen.
+TEST_F(CustomerForm, NoEditWhileAListCannotBeRead)
+{
+    const qint32 id = database.addCustomer({{"company", "Acme"}, {"country", 101}});
+    open(id);
+    const QString lists = database.file(QStringLiteral("nvncat.dbf"));
+    ASSERT_TRUE(QFile::rename(lists, lists + u".away"));
+    person.expect(u"Unable to open: " + lists);
+    click("lblEdit");
+    EXPECT_FALSE(form->inEditMode());
+    EXPECT_EQ(markOwner(id), 0);
+
+    ASSERT_TRUE(QFile::rename(lists + u".away", lists));
+    click("lblEdit");
+    click("OKButton");
+    EXPECT_EQ(stored(id, "country"), "101");
 }
 
 TEST_F(CustomerForm, OkSavesAndCloses)
