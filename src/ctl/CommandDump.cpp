@@ -83,12 +83,13 @@ int run(const Arguments &arguments, Console &console)
     const clsDB::Handle table = db.OpenTable(clsDB::MakePath(dir, file));
     if (table < 1)
         return Problem;
+    const bool damaged = bool(norvane::engine::lastError(db.CBEngine()));
     const RowFormat format =
         arguments.has(QStringLiteral("--csv")) ? RowFormat::Csv : RowFormat::Json;
-    const bool whole = dumpTable(table, format, console);
+    const bool whole = dumpTable(table, format, console) && !damaged;
     db.CloseTable(table);
-    if (!whole)
-        console.err << QStringLiteral("The table '%1' was not read to its end.\n").arg(file);
+    if (!whole && console.out.status() == QTextStream::Ok)
+        console.err << QStringLiteral("The table '%1' could not be read in full.\n").arg(file);
     return whole ? Done : Problem;
 }
 

@@ -67,6 +67,17 @@ QString readPassword()
     return QString::fromLocal8Bit(line.c_str());
 }
 
+namespace
+{
+
+// A lone CR would send a terminal back over what it has just written.
+QString asLines(QString text)
+{
+    return text.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(u'\r', u'\n');
+}
+
+} // namespace
+
 struct MessagesToConsole::Saved {
     decltype(prompts::Backend::message) message;
     decltype(prompts::Backend::text) text;
@@ -76,11 +87,11 @@ MessagesToConsole::MessagesToConsole(Console &console)
     : m_saved(std::make_unique<Saved>(Saved{prompts::backend().message, prompts::backend().text}))
 {
     prompts::backend().message = [&console](const prompts::Message &message) {
-        console.err << message.text << '\n';
+        console.err << asLines(message.text) << '\n';
         return message.preset;
     };
     prompts::backend().text = [&console](const prompts::Message &message) {
-        console.err << message.text << '\n';
+        console.err << asLines(message.text) << '\n';
     };
 }
 

@@ -102,8 +102,12 @@ QList<Command> commands()
 
 int runProgram(const QStringList &words, Console &console)
 {
-    const int code = dispatch(words, console);
+    int code = dispatch(words, console);
     console.out.flush();
+    if (console.out.status() != QTextStream::Ok) {
+        console.err << QStringLiteral("The output could not be written.\n");
+        code = Problem;
+    }
     console.err.flush();
     return code;
 }

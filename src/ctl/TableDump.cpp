@@ -84,9 +84,10 @@ QString fieldText(Handle field)
 // Nothing when the row points to a memo that cannot be read.
 std::optional<QString> wholeMemo(Handle field)
 {
+    const std::uint32_t length = f4memoLenVB(field); // says what is wrong with one
     const char *memo = f4memoPtr(field);
     if (memo != nullptr)
-        return fromStored(memo, f4memoLenVB(field));
+        return fromStored(memo, length);
     const QString block = FieldText(field).trimmed();
     if (block.isEmpty() || block.toLongLong() == 0)
         return QString();

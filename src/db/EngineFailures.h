@@ -14,6 +14,7 @@ public:
     // Tells the kept failure, if any, in a critical box and forgets it.
     void show();
     void clear() { m_first = {}; }
+    bool any() const { return bool(m_first); }
 
 private:
     norvane::engine::Error m_first;

@@ -80,6 +80,19 @@ public:
     // folder that refuses writing gives a table for reading.
     Handle OpenTable(const QString &path);
     void CloseTable(Handle table);
+    // While one lives, a table that cannot be opened is told of once: a screen reads the same
+    // table for each of its lists and labels.
+    class TellOnce
+    {
+    public:
+        explicit TellOnce(clsDB &db);
+        ~TellOnce();
+        TellOnce(const TellOnce &) = delete;
+        TellOnce &operator=(const TellOnce &) = delete;
+
+    private:
+        clsDB &m_db;
+    };
 
     // ---- records (clsDBRecords.cpp)
     // Stores the record; a new one (_rowid below 1) gets its identifier, which replaces _rowid.
@@ -149,7 +162,8 @@ public:
     // ---- lookup lists (clsDBLookups.cpp)
     void LoadLV(ListSink &list, const QString &path, const QString &keyField,
                 const QString &textField, qint32 type, bool clear = false);
-    void LoadCbo(ListSink &combo, const QString &path, const QString &keyField,
+    // False when the list could not be read to its end; that was or will be told.
+    bool LoadCbo(ListSink &combo, const QString &path, const QString &keyField,
                  const QString &textField, const QString &typeField, qint32 type,
                  bool clear = false, bool addBlank = false, qint32 selectId = 0);
     void LoadCbo_Users(ListSink &combo, bool clear = false, bool activeOnly = false);
@@ -195,6 +209,8 @@ private:
     Handle m_hSession = 0;
     int m_openTables = 0;
     EngineFailures m_failures;
+    int m_tellingOnce = 0;
+    QStringList m_told; // paths, while telling once
     norvane::engine::FileSystem *m_files = nullptr;
     bool m_bIsOpen = false;
     QString m_sDBPath;

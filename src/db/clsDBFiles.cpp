@@ -111,8 +111,10 @@ bool clsDB::copyTemplate(const QString &templateName, const QString &dir, const 
     if (!clsSystem::FileCopyFn(MakePath(app::programFolder(), templateName), target))
         return false;
     // Templates may be installed read-only; the database is not.
+    // A file system without such permissions is not asked to change them.
     QFile file(target);
-    return file.setPermissions(file.permissions() | QFile::WriteOwner);
+    return (file.permissions() & QFile::WriteOwner) != 0 ||
+           file.setPermissions(file.permissions() | QFile::WriteOwner);
 }
 
 // One name a line. The newer tables are copied from the templates when only they are missing, so a
@@ -194,7 +196,8 @@ bool clsDB::NewDB(const QString &dir)
             for (qsizetype i = 0; i < names.size(); ++i) {
                 if (!copyTemplate(table.templateFiles().at(i), dir, names.at(i))) {
                     throw Failure(PathAccess, app::title(),
-                                  QStringLiteral("The file '%1' could not be created.")
+                                  QStringLiteral("The file '%1' could not be created. The folder "
+                                                 "may be read-only or the disk full.")
                                       .arg(MakePath(dir, names.at(i))));
                 }
             }

@@ -15,6 +15,7 @@ namespace
 constexpr qint32 FirstID = 1000;
 constexpr qint32 Locked = -1;
 constexpr qint32 Failed = 0;
+constexpr qint32 Garbled = -2;
 const QString CounterName = QStringLiteral("tblname");
 const QString ParamName = QStringLiteral("sid");
 
@@ -27,6 +28,9 @@ qint32 takeNext(TableUse &rows)
         return lock.heldElsewhere() ? Locked : Failed;
     const Handle counter = rows.field(QStringLiteral("lastid"));
     const qint32 taken = f4long(counter);
+    // Lower ones were never given out: two records could get the same.
+    if (taken < FirstID)
+        return Garbled;
     qint32 next = taken;
     clsSystem::IncL(next);
     f4assignLong(counter, next);
@@ -62,10 +66,14 @@ qint32 clsDB::GetNextID(const QString &tableName)
             TableUse rows(*this, LastIDTable());
             if (!rows)
                 return -1;
+            if (rows.field(CounterName) < 1 || rows.field(QStringLiteral("lastid")) < 1)
+                return -1; // a garbled header; the engine says so
             // Before any tag is selected: the first tag of the index is the one by name.
             const bool found = rows.seekText(tableName, CounterName);
             d4tagSelect(rows.handle(), d4tag(rows.handle(), "TBLNAME"));
             taken = found ? takeNext(rows) : startCounter(rows, tableName);
+            if (taken == Garbled)
+                m_failures.note({ErrorKind::Damaged, LastIDTable().toStdString(), "counter"});
         }
         if (taken == Locked)
             prompts::critical(QStringLiteral("RECORD LOCKED: Unable to get next id (locked)!"));

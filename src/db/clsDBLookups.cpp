@@ -87,14 +87,14 @@ void clsDB::LoadLV(ListSink &list, const QString &path, const QString &keyField,
     });
 }
 
-void clsDB::LoadCbo(ListSink &combo, const QString &path, const QString &keyField,
+bool clsDB::LoadCbo(ListSink &combo, const QString &path, const QString &keyField,
                     const QString &textField, const QString &typeField, qint32 type, bool clear,
                     bool addBlank, qint32 selectId)
 {
-    guarded("clsDB_LoadCbo", [&] {
+    return guarded("clsDB_LoadCbo", false, [&] {
         TableUse rows(*this, path);
         if (!rows)
-            return;
+            return false;
         const Hourglass busy;
         const Loading frozen(combo);
         if (clear)
@@ -111,6 +111,7 @@ void clsDB::LoadCbo(ListSink &combo, const QString &path, const QString &keyFiel
         }
         if (selectId > 0)
             combo.selectId(selectId);
+        return !m_failures.any();
     });
 }
 

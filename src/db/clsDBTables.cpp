@@ -26,6 +26,12 @@ clsDB::Handle clsDB::OpenTable(const QString &path)
     // A table that is not there needs no other words than those below; for damage and the like the
     // engine's come first.
     code4errorCode(m_hSession, 0);
+    if (m_told.contains(path)) {
+        m_failures.clear();
+        return 0;
+    }
+    if (m_tellingOnce > 0)
+        m_told.append(path);
     m_failures.show();
     prompts::critical(u"Unable to open: " % path);
     return 0;
@@ -39,6 +45,17 @@ void clsDB::CloseTable(Handle table)
     m_openTables = std::max(0, m_openTables - 1);
     if (m_openTables == 0)
         m_failures.show();
+}
+
+clsDB::TellOnce::TellOnce(clsDB &db) : m_db(db)
+{
+    ++m_db.m_tellingOnce;
+}
+
+clsDB::TellOnce::~TellOnce()
+{
+    if (--m_db.m_tellingOnce == 0)
+        m_db.m_told.clear();
 }
 
 TableUse::TableUse(clsDB &db, const QString &path, clsDB::Handle given)

@@ -31,13 +31,14 @@ frmCustomerList::~frmCustomerList() = default;
 
 void frmCustomerList::setUpList()
 {
+    const clsDB::TellOnce tellOnce(gDB);
     const auto label = [](const char *field) {
         return CustomLabels.GetCustomerLabelName(QString::fromLatin1(field), false);
     };
     const QList<ListView::Column> columns{
-        {tr("Name"), QStringLiteral("N"), 190},      {label("company"), QStringLiteral("C"), 210},
+        {tr("Name"), QStringLiteral("N"), 190},      {label("company"), QStringLiteral("C"), 260},
         {label("custno"), QStringLiteral("O"), 120}, {label("workphone"), QStringLiteral("P"), 150},
-        {label("city"), QStringLiteral("L"), 120},
+        {label("city"), QStringLiteral("L"), 160},
     };
     for (const ListView::Column &column : columns)
         m_columnsWidth += column.width;
@@ -86,8 +87,11 @@ void frmCustomerList::LoadData()
     const QScopedValueRollback loading(m_bLoading, true);
     const QString selected = LvGetSelectedItemKey(ui->lvCustomers);
     const Handle table = gDB.OpenTable(gDB.CustomerTable());
-    if (table < 1)
+    if (table < 1) {
+        ui->lvCustomers->setEmptyText(tr("The customers could not be read."));
         return;
+    }
+    ui->lvCustomers->setEmptyText({}); // not known yet
     ui->lvCustomers->clearItems();
     ui->lvCustomers->beginLoad();
     m_bCancelled = false;

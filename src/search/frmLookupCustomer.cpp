@@ -28,6 +28,7 @@ frmLookupCustomer::~frmLookupCustomer() = default;
 
 void frmLookupCustomer::loadTypes()
 {
+    const clsDB::TellOnce tellOnce(gDB);
     const auto label = [](const char *field) {
         return CustomLabels.GetCustomerLabelName(QString::fromLatin1(field), false);
     };

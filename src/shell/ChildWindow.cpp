@@ -18,7 +18,8 @@ QSize sizeFromText(const QString &text)
 
 } // namespace
 
-ChildWindow::ChildWindow(QWidget *form)
+// A widget that gets a parent forgets which of its controls has the focus.
+ChildWindow::ChildWindow(QWidget *form) : m_firstFocus(form->focusWidget())
 {
     setWidget(form);
     setAttribute(Qt::WA_DeleteOnClose);
@@ -49,6 +50,21 @@ void ChildWindow::openAtItsSize(const QMdiSubWindow *behind)
     if (place.x() > lowest.x() || place.y() > lowest.y())
         place = {qBound(0, place.x(), lowest.x()), 0}; // from the top again
     move(place);
+}
+
+void ChildWindow::focusForm()
+{
+    QWidget *const form = widget();
+    QWidget *first = m_firstFocus;
+    // The chain leads through all windows of the main window.
+    for (QWidget *at = form->nextInFocusChain(); first == nullptr && at != form;
+         at = at->nextInFocusChain()) {
+        if (form->isAncestorOf(at) && at->isEnabled() && at->isVisible() &&
+            (at->focusPolicy() & Qt::TabFocus) != 0)
+            first = at;
+    }
+    if (first != nullptr)
+        first->setFocus();
 }
 
 void ChildWindow::rememberSize() const

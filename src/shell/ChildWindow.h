@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QMdiSubWindow>
+#include <QPointer>
 
 class ChildWindow : public QMdiSubWindow
 {
@@ -13,6 +14,9 @@ public:
     // Call once the frame is in its area and shown. `behind` is the window that was in use, null
     // when there was none; this one stands a title bar below it.
     void openAtItsSize(const QMdiSubWindow *behind);
+    // Gives the keyboard to the control that the form chose before it was framed, else to its
+    // first one.
+    void focusForm();
     // The size it has now was not chosen by a person, and is not to be remembered.
     void noteSizeGiven() { m_sizeGiven = size(); }
 
@@ -23,5 +27,6 @@ private:
     void rememberSize() const;
     QString sizeName() const;
 
+    QPointer<QWidget> m_firstFocus;
     QSize m_sizeGiven;
 };

@@ -34,8 +34,9 @@ SingleInstance::SingleInstance(QObject *parent)
     m_lock.setStaleLockTime(0); // held for as long as the program runs
     m_server.setSocketOptions(QLocalServer::UserAccessOption);
     connect(&m_server, &QLocalServer::newConnection, this, &SingleInstance::greet);
-    // It says good-bye a moment before its lock is free.
-    connect(&m_first, &QLocalSocket::disconnected, this,
+    // The first one ended, or was ending already. It closes its door a moment before its lock is
+    // free.
+    connect(&m_first, &QLocalSocket::errorOccurred, this,
             [this] { QTimer::singleShot(300, this, &SingleInstance::begin); });
 }
 

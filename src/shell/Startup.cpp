@@ -8,7 +8,9 @@
 #include "db/clsDB.h"
 
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QDir>
+#include <QWindow>
 
 QString Startup::folderFromCommandLine(const QStringList &arguments)
 {
@@ -36,10 +38,7 @@ bool Startup::run()
     m_splash.reset();
     if (!m_main)
         return false;
-    step([this] {
-        guidialogs::setMainWindow(m_main.get());
-        m_main->show();
-    });
+    step([this] { showMain(); });
     step([this] { openDatabase(); });
     step([this] { m_main->SetUI(); });
     return true;
@@ -77,6 +76,18 @@ void Startup::waitForSplash()
 {
     while (m_splash && !m_splash->minimumTimePassed())
         QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+}
+
+// A window system places and maximises a window in its own time; the login box that comes next is
+// centred over where the window is by then.
+void Startup::showMain()
+{
+    guidialogs::setMainWindow(m_main.get());
+    m_main->show();
+    const QDeadlineTimer patience(500);
+    while (!m_main->windowHandle()->isExposed() && !patience.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+    QCoreApplication::processEvents();
 }
 
 void Startup::openDatabase()

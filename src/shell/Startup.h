@@ -37,6 +37,7 @@ private:
     void step(const std::function<void()> &body);
     void showSplash();
     void waitForSplash();
+    void showMain();
     void openDatabase();
     void raiseMain();
 

@@ -35,6 +35,7 @@ void frmMain::showChild(QWidget *form)
     frame->show();
     frame->openAtItsSize(behind);
     ui->mdiArea->setActiveSubWindow(frame);
+    frame->focusForm();
 }
 
 void frmMain::noteSizesGiven()

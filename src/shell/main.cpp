@@ -1,6 +1,7 @@
 #include "common/base/AppInfo.h"
 #include "common/ui/GuiDoors.h"
 #include "common/ui/Icons.h"
+#include "common/ui/ProgramStyle.h"
 #include "shell/CommandLine.h"
 #include "shell/Startup.h"
 #include "shell/Tour.h"
@@ -45,6 +46,7 @@ int main(int argc, char *argv[])
         return 1;
     const QApplication application(argc, argv);
     nameTheProgram();
+    ProgramStyle::install();
     installGuiDoors(nullptr);
     if (command.tour)
         return Tour(command.tourFolder, command.folder).run();

@@ -9,6 +9,11 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#ifndef Q_OS_WIN
+#include <csignal>
+#include <sys/resource.h>
+#endif
+
 namespace
 {
 
@@ -113,6 +118,22 @@ TEST_F(Files, ACopyOfAReadOnlyFileCanBeWrittenTo)
     EXPECT_TRUE(gSys.FileCopyFn(path("template.db_"), path("new.dbf")));
     EXPECT_EQ("seed", bytes("new.dbf"));
     EXPECT_TRUE(QFile::permissions(path("new.dbf")) & QFile::WriteOwner);
+}
+
+TEST_F(Files, ACopyThatFindsNoRoomFailsAndLeavesNothing)
+{
+    make("a", QByteArray(5000, 'x'));
+    // A limit for files stands in for a full disk.
+    const auto before = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit whole{};
+    getrlimit(RLIMIT_FSIZE, &whole);
+    const rlimit little{1000, whole.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &little);
+    const bool copied = gSys.FileCopyFn(path("a"), path("b"));
+    setrlimit(RLIMIT_FSIZE, &whole);
+    std::signal(SIGXFSZ, before);
+    EXPECT_FALSE(copied);
+    EXPECT_EQ(QStringList("a"), QDir(m_dir.path()).entryList(QDir::Files));
 }
 #endif
 

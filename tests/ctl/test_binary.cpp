@@ -75,3 +75,15 @@ TEST(Binary, RefusalsAreOnStandardErrorWithTheirCode)
         EXPECT_TRUE(result.out.isEmpty()) << qPrintable(result.out);
     }
 }
+
+#ifdef Q_OS_LINUX
+TEST(Binary, OutputThatCannotBeWrittenIsAProblem)
+{
+    QProcess process;
+    process.setStandardOutputFile("/dev/full");
+    process.start(QCoreApplication::applicationDirPath() + "/norvanectl", {"--help"});
+    ASSERT_TRUE(process.waitForFinished(60000));
+    EXPECT_EQ(process.exitCode(), 1);
+    EXPECT_TRUE(process.readAllStandardError().contains("could not be written"));
+}
+#endif

@@ -92,3 +92,23 @@ TEST(Dump, ADamagedTableIsSaidAndNotPassedOffAsEmpty)
     EXPECT_EQ(result.code, 1);
     EXPECT_TRUE(result.err.contains("nvncat.dbf")) << qPrintable(result.err);
 }
+
+TEST(Dump, RowsAndMemosThatCannotBeReadAreSaidWithTheirFile)
+{
+    const CtlFolder folder;
+    importCustomers(folder, "LASTNAME,COMPANY,NOTES\nA,,one\nB,,two\nC,,three\n");
+    const QByteArray memos = readAll(folder.at("nvncust.fpt"));
+    writeAll(folder.at("nvncust.fpt"), memos.left(512));
+    const CtlResult noMemos = ctlRun({"dump", folder.path(), "customers"});
+    EXPECT_EQ(noMemos.code, 1);
+    EXPECT_EQ(noMemos.lines().size(), 3) << "what is left is given";
+    EXPECT_TRUE(noMemos.err.contains("nvncust.fpt")) << qPrintable(noMemos.err);
+    writeAll(folder.at("nvncust.fpt"), memos);
+
+    const QByteArray rows = readAll(folder.at("nvncust.dbf"));
+    writeAll(folder.at("nvncust.dbf"), rows.left(rows.size() - 1500));
+    const CtlResult cut = ctlRun({"dump", folder.path(), "customers"});
+    EXPECT_EQ(cut.code, 1);
+    EXPECT_EQ(cut.lines().size(), 1);
+    EXPECT_TRUE(cut.err.contains("nvncust.dbf")) << qPrintable(cut.err);
+}

@@ -48,6 +48,14 @@ TEST_F(Ids, ACounterAtItsEndIsAnError)
     EXPECT_EQ(-1, other->GetNextID(u"x.dbf"_s));
 }
 
+TEST_F(Ids, AGarbledCounterGivesNoIdentifierThatMayBeInUse)
+{
+    gDB.GetNextID(u"x.dbf"_s);
+    setCounter(u"x.dbf"_s, 7);
+    person.expect(u"nvnid.dbf' is damaged"_s).kind(prompts::Kind::Critical);
+    EXPECT_EQ(-1, gDB.GetNextID(u"x.dbf"_s));
+}
+
 TEST_F(Ids, ParametersIgnoreCaseAndKeepOneRow)
 {
     EXPECT_EQ(QString(), gDB.GetParamValue(u"ENABLE_ISSUE_TEMPLATES"_s));

@@ -115,4 +115,6 @@ TEST(ImportRobustness, AHugeRowIsRefusedLikeASmallOne)
     const ScriptedPrompts person;
     EXPECT_FALSE(passes(heading + QByteArray(1 << 20, ',') + "\n"));
     EXPECT_TRUE(passes(heading + QByteArray(1 << 20, 'x') + "\n"));
+    EXPECT_FALSE(passes(heading + "Doe,ACME," + QByteArray(5 << 20, 'x') + "\n"))
+        << "what is behind the limit would be missing";
 }

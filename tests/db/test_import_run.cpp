@@ -156,6 +156,17 @@ TEST_F(Import, AMissingTableEndsTheImportBeforeItBegins)
     EXPECT_TRUE(person.progress().back().closed);
 }
 
+TEST_F(Import, AFolderThatGoesAwayOnTheRunIsToldOnce)
+{
+    const ImportFile file("DESCRIPTION\nA1\nB1\nC1\nD1\n");
+    person.expect(u"Unable to open: "_s + gDB.LastIDTable());
+    ImportRun run(gDB, States, {u"DESCRIPTION"_s}, 4);
+    run.onStored([this](qint32) { QFile::remove(gDB.LastIDTable()); });
+    const ImportResult result = run.ImportData_Detail(file.path());
+    EXPECT_EQ(4, result.tried);
+    EXPECT_EQ(1, result.stored);
+}
+
 TEST_F(Import, AFileThatWentAwayIsReported)
 {
     person.expect(u"frmDataImport_ImportData_Detail"_s).title(u"Error"_s);

@@ -57,6 +57,10 @@ TEST_F(Files, FailuresSayTheirKind)
     EXPECT_TRUE(file->readOnly());
     EXPECT_EQ(file->write(0, asBytes("b")).error().kind, ErrorKind::ReadOnly);
     EXPECT_EQ(file->resize(0).error().kind, ErrorKind::ReadOnly);
+    EXPECT_TRUE(file->tryLock(kLockByte, 1, LockMode::Shared).ok());
+#ifndef _WIN32 // a lock there needs no right to write
+    EXPECT_EQ(file->tryLock(kLockByte, 1, LockMode::Exclusive).error().kind, ErrorKind::ReadOnly);
+#endif
     EXPECT_EQ(content(), "a");
     EXPECT_EQ(files.remove(m_folder / "none").error().kind, ErrorKind::NotFound);
     EXPECT_EQ(files.rename(m_folder / "none", m_path).error().kind, ErrorKind::NotFound);

@@ -72,11 +72,13 @@ TEST(IndexLeaf, EntriesGrowWithTheLargestRecordNumber)
     EXPECT_EQ(leaf.bytes(), 3u + 2u);
     leaf.append(key, 0x10000); // the same key: no text of its own
     EXPECT_EQ(leaf.bytes(), 2 * 4u + 2u);
-    leaf.append(key, 0xFFFFFFFF);
+    leaf.append(key, 0xFFFFFFFE);
     EXPECT_EQ(leaf.bytes(), 3 * 5u + 2u);
     IndexLeaf again(8, 0);
     ASSERT_TRUE(again.decode(encoded(leaf)).ok());
-    EXPECT_EQ(again.record(2), 0xFFFFFFFF);
+    EXPECT_EQ(again.record(2), 0xFFFFFFFE);
+    leaf.append(key, 0xFFFFFFFF); // nothing could stand behind it: walks would not end
+    EXPECT_EQ(again.decode(encoded(leaf)).error().kind, ErrorKind::Damaged);
 }
 
 TEST(IndexLeaf, SplitAndJoinKeepTheSizeRight)
@@ -121,6 +123,29 @@ TEST(IndexLeaf, ReadsNarrowEntriesAndKeepsThem)
     EXPECT_EQ(leaf.key(1), padded("AB", 10));
     EXPECT_EQ(leaf.bytes(), 6u);
     EXPECT_EQ(cut(encoded(leaf), 24, 28), cut(page, 24, 28));
+}
+
+TEST(IndexLeaf, RefusesEntriesThatOurLayoutHasNoRoomFor)
+{
+    // One byte an entry, no counts: more entries in a page than can be written back.
+    const auto narrow = [](std::size_t count) {
+        Page page{};
+        page[0] = 3;
+        page[2] = static_cast<Byte>(count);
+        putLe16(&page[12], static_cast<std::uint16_t>(488 - 2 * count));
+        putLe32(&page[14], 0xFF);
+        page[20] = 8;
+        page[23] = 1;
+        for (std::size_t i = 0; i < count; ++i) {
+            page[24 + i] = static_cast<Byte>(i + 1);
+            page[511 - i] = 'A';
+        }
+        return page;
+    };
+    IndexLeaf leaf(1, ' ');
+    ASSERT_TRUE(leaf.decode(narrow(100)).ok());
+    EXPECT_EQ(leaf.bytes(), 400u);
+    EXPECT_EQ(leaf.decode(narrow(240)).error().kind, ErrorKind::Damaged);
 }
 
 TEST(IndexLeaf, RefusesBytesThatMakeNoSense)

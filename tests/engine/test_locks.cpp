@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <future>
 #include <thread>
 
 using namespace norvane::engine;
@@ -219,6 +220,40 @@ TEST(LockStress, FourStationsChangingATableLeaveItSound)
     for (Station &station : stations)
         EXPECT_EQ(station.answer(), "ok");
     EXPECT_EQ(findings(path), "");
+}
+
+TEST(LockStress, RowsThatStayAreFoundAtAnyMomentWhileOthersSplitPages)
+{
+    const TempFolder folder;
+    const std::string path = folder / "people.dbf";
+    makeTable(path, peopleTable());
+    const TestSession session(100, 10);
+    const Handle table = d4open(session, path);
+    constexpr int kept = 200;
+    const auto keptName = [](int id) { return "Name " + std::to_string(id * 331) + " kept"; };
+    for (int id = 1; id <= kept; ++id)
+        ASSERT_EQ(addPerson(table, id, keptName(id)), r4success); // among the names of the others
+    Station stations[3];
+    int seed = 0;
+    for (Station &station : stations)
+        station.tell("churn " + path + ' ' + std::to_string(++seed) + " 1000");
+    std::future<std::string> others = std::async(std::launch::async, [&stations] {
+        std::string answers;
+        for (Station &station : stations)
+            answers += station.answer() + ' ';
+        return answers;
+    });
+    for (int turn = 0;
+         others.wait_for(0s) != std::future_status::ready && !testing::Test::HasFailure(); ++turn) {
+        const int id = 1 + turn % (kept - 1);
+        EXPECT_EQ(findPerson(table, id), r4success) << id;
+        EXPECT_EQ(d4skip(table, 1), r4success);
+        EXPECT_EQ(f4long(d4field(table, "rowid")), id + 1);
+        selectTag(table, "name");
+        EXPECT_EQ(d4seek(table, keptName(id)), r4success) << id;
+        EXPECT_EQ(f4long(d4field(table, "rowid")), id);
+    }
+    EXPECT_EQ(others.get(), "ok ok ok ");
 }
 
 TEST(LockStress, ADyingStationLeavesNoLockAndNothingARebuildCannotMend)

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 
 using namespace norvane::engine;
@@ -145,35 +146,50 @@ TEST_F(TableDamage, TwoRowsThatShareAMemoAreFound)
     EXPECT_NE(findings(m_path).find("share memo blocks"), std::string::npos);
 }
 
-TEST_F(TableDamage, ACountThatLiesIsHeldAgainstTheFile)
+TEST_F(TableDamage, ACountThatLiesIsToldAndNoRowGoesOverTheOthers)
 {
-    for (const std::uint32_t claimed : {9U, 1008U, 0x80000000U, 0xFFFFFFFFU}) {
+    // too many, as in a file that was cut; too few, so that rows lie behind the count
+    for (const std::uint32_t claimed : {9U, 1008U, 0x80000000U, 0xFFFFFFFFU, 6U, 1U, 0U}) {
         Bytes bytes = m_dbf;
         putLe32(&bytes[4], claimed);
         writeFile(m_path, bytes);
         EXPECT_NE(findings(m_path), "") << claimed;
+        const std::uint32_t shown = std::min(claimed, 8U);
         TestSession session;
         const Handle table = d4open(session, m_path);
-        EXPECT_EQ(d4recCountDo(table), 8U) << claimed;
-        EXPECT_EQ(addPerson(table, 9, "Ninth"), r4success);
-        EXPECT_EQ(d4recCountDo(table), 9U);
+        EXPECT_EQ(session.lastKind(), ErrorKind::Damaged) << claimed;
+        EXPECT_EQ(d4recCountDo(table), shown) << claimed;
+        EXPECT_EQ(addPerson(table, 9, "Ninth"), r4failure);
         d4close(table);
-        EXPECT_EQ(findings(m_path), "") << claimed; // put right by the append
+        EXPECT_TRUE(readFile(m_path) == bytes) << claimed;
+
+        // building the index anew counts the rows that are there
+        code4accessMode(session, 1);
+        const Handle alone = d4open(session, m_path);
+        EXPECT_EQ(d4reindex(alone), r4success);
+        EXPECT_EQ(addPerson(alone, 9, "Ninth"), r4success);
+        EXPECT_EQ(d4recCountDo(alone), 9U) << claimed;
+        d4close(alone);
+        EXPECT_EQ(findings(m_path), "") << claimed;
         restore();
     }
-    Bytes bytes = m_dbf; // rows behind the count are not shown, and give way to new ones
-    putLe32(&bytes[4], 5);
+}
+
+TEST_F(TableDamage, TheRowOfAnInterruptedAppendGivesWayToTheNext)
+{
+    Bytes bytes = m_dbf;
+    putLe32(&bytes[4], 7);
     writeFile(m_path, bytes);
     TestSession session;
     code4accessMode(session, 1);
     const Handle table = d4open(session, m_path);
-    EXPECT_EQ(d4recCountDo(table), 5U);
-    EXPECT_NE(findPerson(table, 6), r4success);
+    EXPECT_EQ(session.lastKind(), ErrorKind::None);
+    EXPECT_NE(findPerson(table, 8), r4success);
     EXPECT_EQ(d4reindex(table), r4success);
-    EXPECT_EQ(addPerson(table, 60, "New"), r4success);
+    EXPECT_EQ(addPerson(table, 80, "New"), r4success);
     d4close(table);
     EXPECT_EQ(findings(m_path), "");
-    EXPECT_EQ(readFile(m_path).size(), m_dbf.size() - 2 * 107);
+    EXPECT_EQ(readFile(m_path).size(), m_dbf.size());
 }
 
 TEST_F(TableDamage, AMissingPartIsNamed)

@@ -4,6 +4,8 @@
 #include "common/ui/FormWindow.h"
 #include "db/Screens.h"
 
+#include <QDir>
+#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMdiArea>
@@ -84,6 +86,53 @@ TEST_F(CustomerForm, ApplyEndsTheEditAndTheNextOneTakesANewMark)
         EXPECT_FALSE(find<QPushButton>("cmdApply")->isEnabled());
         EXPECT_EQ(stored(id, "city"), city);
     }
+}
+
+// Lists and labels are read from two tables many times; each is told of once.
+TEST_F(CustomerForm, AFolderThatGoesAwayIsToldOnceATableAndCostsNoTypedText)
+{
+    const qint32 id = database.addCustomer({{"company", "Acme"}});
+    open(id);
+    const QDir folder(database.path());
+    const QString elsewhere = folder.path() + QLatin1String(".away");
+    ASSERT_TRUE(QDir().rename(folder.path(), elsewhere));
+    for (const char *file : {"nvncat.dbf", "nvnparam.dbf", "nvncust.dbf"})
+        person.expect(QStringLiteral("Unable to open: ") + database.file(QLatin1String(file)));
+    person.expectText("Record cannot be accessed");
+    click("cmdRefresh");
+    EXPECT_EQ(person.left(), 0);
+
+    ASSERT_TRUE(QDir().rename(elsewhere, folder.path()));
+    click("lblEdit");
+    type("txtCity", "Bern");
+    ASSERT_TRUE(QDir().rename(folder.path(), elsewhere));
+    person.expect("Unable to open");
+    person.expectText("Record cannot be accessed");
+    click("cmdApply");
+    EXPECT_TRUE(form->inEditMode());
+    EXPECT_EQ(find<QLineEdit>("txtCity")->text(), "Bern");
+
+    ASSERT_TRUE(QDir().rename(elsewhere, folder.path()));
+    click("cmdApply");
+    EXPECT_EQ(stored(id, "city"), "Bern");
+}
+
+// Saving would store the gaps that a list left on the screen.
+TEST_F(CustomerForm, NoEditWhileAListCannotBeRead)
+{
+    const qint32 id = database.addCustomer({{"company", "Acme"}, {"country", 101}});
+    open(id);
+    const QString lists = database.file(QStringLiteral("nvncat.dbf"));
+    ASSERT_TRUE(QFile::rename(lists, lists + u".away"));
+    person.expect(u"Unable to open: " + lists);
+    click("lblEdit");
+    EXPECT_FALSE(form->inEditMode());
+    EXPECT_EQ(markOwner(id), 0);
+
+    ASSERT_TRUE(QFile::rename(lists + u".away", lists));
+    click("lblEdit");
+    click("OKButton");
+    EXPECT_EQ(stored(id, "country"), "101");
 }
 
 TEST_F(CustomerForm, OkSavesAndCloses)

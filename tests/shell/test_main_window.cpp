@@ -117,6 +117,24 @@ TEST_F(MainWindow, ASecondNewCustomerRaisesTheFirstWithItsText)
     form->close();
 }
 
+// The first window of all, and one beside others.
+TEST_F(MainWindow, ANewWindowHasTheKeyboard)
+{
+    openWithDatabase();
+    main->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(main.get()));
+    choose("mnuViewNewCustomer");
+    ASSERT_NE(QApplication::focusWidget(), nullptr);
+    EXPECT_EQ(QApplication::focusWidget()->objectName(), "txtCustNo");
+
+    const DialogDriver driver = lookingUp(SearchLastName, QString());
+    choose("mnuViewLookupCustomer");
+    main->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(main.get()));
+    ASSERT_NE(QApplication::focusWidget(), nullptr);
+    EXPECT_EQ(QApplication::focusWidget()->objectName(), "lvCustomers");
+}
+
 TEST_F(MainWindow, NewCustomerWantsItsRight)
 {
     openWithDatabase();

@@ -33,7 +33,8 @@ bool copyContents(QFile &from, QSaveFile &to)
         if (block.isEmpty() || to.write(block) != block.size())
             return false;
     }
-    return from.error() == QFileDevice::NoError;
+    // Closing would write out what is buffered too, but not say that the disk was full.
+    return from.error() == QFileDevice::NoError && to.flush();
 }
 
 // One entry of a tree on its way out. A link goes, what it points to stays.

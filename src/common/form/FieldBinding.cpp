@@ -13,11 +13,11 @@
 namespace
 {
 
-void fillFromList(QComboBox *combo, int listType, bool withBlank)
+bool fillFromList(QComboBox *combo, int listType, bool withBlank)
 {
     ComboSink sink(combo);
-    gDB.LoadCbo(sink, gDB.CategoryTable(), QStringLiteral("rowid"), QStringLiteral("desc"),
-                QStringLiteral("type"), listType, true, withBlank);
+    return gDB.LoadCbo(sink, gDB.CategoryTable(), QStringLiteral("rowid"), QStringLiteral("desc"),
+                       QStringLiteral("type"), listType, true, withBlank);
 }
 
 // The lines of the box joined by line feeds. Not toPlainText(), which turns no-break spaces into
@@ -102,13 +102,13 @@ FieldBinding comboText(const QString &field, QComboBox *combo, int length, int l
                       },
                       [combo] { return QVariant(combo->currentText()); }};
     if (listType > 0)
-        made.refill = [combo, listType] { fillFromList(combo, listType, false); };
+        made.refill = [combo, listType] { return fillFromList(combo, listType, false); };
     return made;
 }
 
 FieldBinding lookup(const QString &field, QComboBox *combo, int listType)
 {
-    return {field, combo, [combo, listType] { fillFromList(combo, listType, true); },
+    return {field, combo, [combo, listType] { return fillFromList(combo, listType, true); },
             [combo](const QVariant &value) { ComboSink(combo).selectId(value.toInt()); },
             [combo] { return QVariant(ComboSink(combo).currentId()); }};
 }

@@ -15,7 +15,8 @@ class QWidget;
 struct FieldBinding {
     QString field;
     QWidget *control = nullptr;
-    std::function<void()> refill; // from its lookup list; empty when it has none
+    // From its lookup list, false when that could not be read; empty when it has none.
+    std::function<bool()> refill;
     std::function<void(const QVariant &)> show;
     std::function<QVariant()> value;
 };

@@ -93,9 +93,10 @@ void RecordForm::Init(qint32 rowid, bool bEdit)
 void RecordForm::InitControls()
 {
     guarded(context("InitControls").constData(), [this] {
+        m_allShown = true;
         for (const FieldBinding &binding : m_bindings)
-            if (binding.refill)
-                binding.refill();
+            if (binding.refill && !binding.refill())
+                m_allShown = false;
         SetLabels(this, tableFile());
         m_controls.LE->Clear();
     });
@@ -105,6 +106,7 @@ void RecordForm::LoadData()
 {
     guarded(context("LoadData").constData(), [this] {
         const Hourglass hourglass;
+        const clsDB::TellOnce tellOnce(gDB);
         InitControls();
         if (m_rowid > 0) {
             SetTagVariant();
@@ -119,8 +121,10 @@ void RecordForm::LoadData()
 void RecordForm::showRecord()
 {
     RecColl record = newRecord();
-    if (!recordExists() || !gDB.ReadRecord(record))
+    if (!recordExists() || !gDB.ReadRecord(record)) {
+        m_allShown = false;
         return;
+    }
     for (const FieldBinding &binding : m_bindings)
         binding.show(record.value(binding.field));
     UpdateLastEditCtl();
@@ -172,13 +176,18 @@ void RecordForm::leaveEditMode()
     SetUI();
 }
 
-// The record is read anew, so that an edit starts from what is stored now.
+// The record is read anew, so that an edit starts from what is stored now. When it or one of its
+// lists cannot be read there is no edit: saving would store the gaps.
 void RecordForm::enterEditMode()
 {
     if (!recordExists() || !gDB.CheckIfRecNotUnderEdit(tablePath(), tableFile(), m_rowid))
         return;
     SetLock(true);
     LoadData();
+    if (!m_allShown) {
+        SetLock(false);
+        return;
+    }
     m_controls.EM->EditMode();
     SetUI();
 }

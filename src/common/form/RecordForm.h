@@ -129,4 +129,5 @@ private:
     QWidget *m_newRecordHint = nullptr;
     std::vector<FieldBinding> m_bindings;
     qint32 m_rowid = -1;
+    bool m_allShown = false; // lists and record are on the screen as they are stored
 };

@@ -1,5 +1,6 @@
 #include "common/form/frmUnderEditMsg.h"
 
+#include "common/ui/Icons.h"
 #include "common/ui/Switchboard.h"
 #include "ui_frmUnderEditMsg.h"
 
@@ -20,7 +21,7 @@ frmUnderEditMsg::frmUnderEditMsg(QWidget *parent)
     m_ui->setupUi(this);
     const int size = style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, this);
     m_ui->imgWarn->setPixmap(
-        style()->standardIcon(QStyle::SP_MessageBoxWarning, nullptr, this).pixmap(size));
+        icon(QStringLiteral("warning")).pixmap(QSize(size, size), devicePixelRatioF()));
     connect(m_ui->OKButton, &QPushButton::clicked, this, &QDialog::accept);
     connect(m_ui->CancelButton, &QPushButton::clicked, this, &QDialog::reject);
 }

@@ -15,6 +15,9 @@ Handle d4open(Handle session, std::string_view path)
     const Result<OpenTable *> open = owner->openTable(name);
     if (open.ok()) {
         (*open)->handle = handleRegistry().addTable(*open);
+        // Rows that are left can be read, but whoever reads them must know that some are not.
+        if (const Status whole = (*open)->table.files().checkCount(); !whole.ok())
+            owner->note(whole.error(), Session::Answer::Failure);
         return (*open)->handle;
     }
     const Error &error = open.error();

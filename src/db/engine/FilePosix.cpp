@@ -193,6 +193,8 @@ private:
         while (::fcntl(m_descriptor, F_OFD_SETLK, &range) != 0) {
             if (errno == EAGAIN || errno == EACCES)
                 return Error{ErrorKind::Locked, m_path, "held by another session", place};
+            if (errno == EBADF && m_readOnly)
+                return refusedWrite();
             if (errno != EINTR)
                 return systemError(errno, m_path, "lock", place);
         }

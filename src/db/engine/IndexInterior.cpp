@@ -21,13 +21,19 @@ Status IndexInterior::decode(ByteView page)
             ErrorKind::Damaged, {}, "an interior page has an impossible number of entries"};
     const auto first = page.begin() + entriesStart;
     m_entries.assign(first, first + static_cast<std::ptrdiff_t>(entries * step()));
-    for (std::size_t i = 1; i < entries; ++i) {
+    if (!rises())
+        return Error{ErrorKind::Damaged, {}, "the entries of an interior page are out of order"};
+    return {};
+}
+
+bool IndexInterior::rises() const
+{
+    for (std::size_t i = 1; i < count(); ++i) {
         // Record numbers are big endian behind the key: one comparison covers the pair.
         if (std::memcmp(entry(i - 1), entry(i), m_keyLength + std::size_t{4}) >= 0)
-            return Error{
-                ErrorKind::Damaged, {}, "the entries of an interior page are out of order"};
+            return false;
     }
-    return {};
+    return true;
 }
 
 void IndexInterior::encode(ByteSpan page) const

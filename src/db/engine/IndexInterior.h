@@ -31,6 +31,7 @@ public:
     std::uint32_t record(std::size_t i) const { return getBe32(entry(i) + m_keyLength); }
     std::uint32_t child(std::size_t i) const { return getBe32(entry(i) + m_keyLength + 4); }
 
+    bool rises() const; // no page with other entries is read
     // First entry >= (key, record). A shorter key stands before all that begin with it.
     std::size_t lowerBound(std::string_view key, std::uint32_t record) const;
     void insert(std::size_t i, std::string_view key, std::uint32_t record, std::uint32_t child);

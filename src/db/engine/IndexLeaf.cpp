@@ -123,8 +123,9 @@ Status IndexLeaf::decode(ByteView page)
         if (!decodeEntry(page, i, bits, textEnd) || textEnd < textsStart)
             return damaged("an entry of a leaf makes no sense");
         const Slot &slot = m_slots[i];
-        if (slot.record == 0)
-            return damaged("a leaf has an entry without a record number");
+        // Walks ask for what stands behind a pair, so the highest number must have a next one.
+        if (slot.record == 0 || slot.record == UINT32_MAX)
+            return damaged("a leaf has an entry with an impossible record number");
         if (i > 0 && compare(i - 1, key(i), slot.record) >= 0)
             return damaged("the entries of a leaf are out of order");
     }
@@ -137,6 +138,8 @@ Status IndexLeaf::decode(ByteView page)
         m_width = leastWidth;
         for (const Slot &slot : m_slots)
             widenFor(slot.record);
+        if (bytes() > leafCapacity)
+            return damaged("a leaf has more entries than fit our layout");
     }
     return {};
 }

@@ -34,6 +34,16 @@ std::uint32_t IndexPage::lastRecord() const
     return isLeaf() ? leaf.record(leaf.count() - 1) : interior.record(interior.count() - 1);
 }
 
+bool IndexPage::endsBefore(const IndexPage &next) const
+{
+    if (count() == 0 || next.count() == 0)
+        return true;
+    const std::string_view first = next.isLeaf() ? next.leaf.key(0) : next.interior.key(0);
+    if (const int order = lastKey().compare(first))
+        return order < 0;
+    return lastRecord() < (next.isLeaf() ? next.leaf.record(0) : next.interior.record(0));
+}
+
 std::size_t IndexPage::loadJoined(const IndexPage &next) const
 {
     return isLeaf() ? leaf.bytesJoined(next.leaf) : count() + next.count();

@@ -28,6 +28,7 @@ struct IndexPage {
     std::size_t count() const { return isLeaf() ? leaf.count() : interior.count(); }
     std::string_view lastKey() const;
     std::uint32_t lastRecord() const;
+    bool endsBefore(const IndexPage &next) const; // true when either is empty
 
     // How full the page is, in units of its kind (bytes of a leaf, entries of an interior page).
     std::size_t load() const { return isLeaf() ? leaf.bytes() : interior.count(); }

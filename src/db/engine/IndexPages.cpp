@@ -243,6 +243,13 @@ Status IndexPages::commit()
         return Error{ErrorKind::Misuse, m_file->path(), "an index change broke off half way"};
     if (!changed())
         return {};
+    for (const std::uint32_t offset : m_dirty) {
+        const IndexPage &page = *m_pages.at(offset);
+        if (page.kind == PageKind::Interior && !page.interior.rises()) {
+            forget();
+            return damaged("a change would put the keys of a page out of order", offset);
+        }
+    }
     const std::vector<PageChange> list = changes();
     for (const PageChange &change : list) {
         if (Status status = m_file->write(change.offset, change.bytes); !status.ok()) {

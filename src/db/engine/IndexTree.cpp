@@ -48,6 +48,7 @@ Status IndexTree::descend(std::string_view key, std::uint32_t record, TreePath &
 Result<bool> IndexTree::step(TreePath &path, std::size_t level, bool toRight)
 {
     const std::size_t levels = path.levels;
+    const IndexPage *from = path[level].page;
     std::size_t turn = level;
     while (turn > 0) {
         const TreePath::Step &parent = path[turn - 1];
@@ -62,6 +63,8 @@ Result<bool> IndexTree::step(TreePath &path, std::size_t level, bool toRight)
         return down.error();
     if (path.levels != levels)
         return m_pages.damaged("leaves stand on different levels", path.leaf().page->offset);
+    if (path[level].page == from)
+        return m_pages.damaged("a page stands twice in its tree", from->offset);
     return true;
 }
 

@@ -124,6 +124,8 @@ Result<bool> IndexTree::spill(const TreePath &path, std::size_t level, bool toRi
     IndexPage &right = *(toRight ? other : path)[level].page;
     if (left.loadJoined(right) > mostToSpill(left))
         return false;
+    if (!left.endsBefore(right))
+        return m_pages.damaged("the keys of two neighbours overlap", right.offset);
     IndexPage head = left, tail = right;
     head.absorb(tail);
     head.moveTail(head.splitPoint(), tail);
@@ -229,8 +231,11 @@ Result<bool> IndexTree::merge(const TreePath &path, std::size_t level, bool with
         return false;
     if (left.right != right.offset)
         return m_pages.damaged("a page has a wrong neighbour", left.offset);
-    left.absorb(right);
+    if (!left.endsBefore(right))
+        return m_pages.damaged("the keys of two neighbours overlap", right.offset);
     m_pages.touch(left);
+    m_pages.touch(right); // at once: should taking it out fail, both are read again
+    left.absorb(right);
     syncParents(leftPath, level);
     return true;
 }

@@ -23,6 +23,8 @@ struct JournalHeader {
     static constexpr std::uint32_t kDurable = 4; // what is applied was synced
     static constexpr std::uint32_t kForce = 8;   // a sync failed: write again all that stands here
 
+    static constexpr std::uint32_t kPromised = 16; // a save here was synced before its report
+
     std::uint32_t flags = 0;
     std::uint64_t salt = 0;               // of the records that count
     std::uint64_t first = 1;              // number of the first record of this salt

@@ -60,11 +60,8 @@ Result<std::shared_ptr<TableFiles>> TableFiles::open(FileSystem &files, const st
     if (!header.ok())
         return header.error();
     opened->m_header = std::move(*header);
-    const Result<std::uint64_t> size = opened->m_table.file().size();
-    if (!size.ok())
-        return size.error();
-    opened->m_size = *size;
-    opened->m_count = opened->m_header.possibleCount(opened->m_header.count, *size);
+    if (Status status = opened->takeCount(opened->m_header.count); !status.ok())
+        return status.error();
     if (Status status = opened->openBeside(); !status.ok())
         return status.error();
     opened->m_journal = std::make_unique<TableJournal>(files, besidePath(opened->path(), "nvj"),
@@ -147,11 +144,77 @@ Status TableFiles::refreshCount()
     const Result<std::size_t> got = m_table.file().read(4, bytes);
     if (!got.ok())
         return got.error();
+    return takeCount(*got < bytes.size() ? 0 : getLe32(bytes.data()));
+}
+
+Status TableFiles::takeCount(std::uint32_t claimed)
+{
     const Result<std::uint64_t> size = m_table.file().size();
     if (!size.ok())
         return size.error();
     m_size = *size;
-    m_count = *got < bytes.size() ? 0 : m_header.possibleCount(getLe32(bytes.data()), *size);
+    m_claimed = claimed;
+    m_count = m_header.possibleCount(claimed, m_size);
+    if (m_claimed == m_count)
+        return {};
+    // A server's folder may give a size from before the last append; the row itself decides.
+    const std::uint64_t end = m_header.rowPlace(claimed) + layout().recordLength;
+    Byte last;
+    const Result<std::size_t> got = m_table.file().read(end - 1, ByteSpan(&last, 1));
+    if (got.ok() && *got == 1) {
+        m_size = std::max(m_size, end);
+        m_count = m_header.possibleCount(claimed, m_size);
+    }
+    return {};
+}
+
+// Whole rows that lie behind the last one counted, as far as they look like rows.
+Result<std::uint32_t> TableFiles::rowsBehind(std::uint32_t most)
+{
+    std::uint32_t rows = 0;
+    for (; rows < most; ++rows) {
+        const std::uint64_t place = m_header.rowPlace(m_count + 1 + rows);
+        if (place + layout().recordLength > m_size)
+            break;
+        Byte flag = 0;
+        const Result<std::size_t> got = m_table.file().read(place, ByteSpan(&flag, 1));
+        if (!got.ok())
+            return got.error();
+        if (flag != ' ' && flag != '*')
+            break;
+    }
+    return rows;
+}
+
+Status TableFiles::checkCount()
+{
+    if (m_countWaits)
+        return {};
+    if (m_claimed > m_count)
+        return Error{ErrorKind::Damaged, path(),
+                     "the header counts " + std::to_string(m_claimed) +
+                         " rows, the file has room for " + std::to_string(m_count),
+                     4};
+    const Result<std::uint32_t> behind = rowsBehind(2);
+    if (!behind.ok())
+        return behind.error();
+    if (*behind < 2)
+        return {};
+    return Error{ErrorKind::Damaged, path(),
+                 "rows lie behind the " + std::to_string(m_count) + " that the header counts", 4};
+}
+
+Status TableFiles::mendCount()
+{
+    if (checkCount().ok())
+        return {};
+    const Result<std::uint32_t> behind =
+        rowsBehind(maxRecords(m_header.length, layout().recordLength) - m_count);
+    if (!behind.ok())
+        return behind.error();
+    m_count += *behind;
+    ++m_stamp;
+    m_countWaits = true;
     return {};
 }
 
@@ -170,7 +233,7 @@ Status TableFiles::readRows(std::uint32_t first, ByteSpan into)
 Status TableFiles::checkRoom()
 {
     if (m_count < maxRecords(m_header.length, layout().recordLength))
-        return {};
+        return checkCount();
     return Error{ErrorKind::TooLarge, path(), "the table is full"};
 }
 
@@ -187,6 +250,7 @@ Status TableFiles::writeOutCount()
     m_header.changed = today();
     Status status = m_table.file().write(kCountPlace, makeDateAndCount(m_header.changed, m_count));
     m_countWaits = !status.ok();
+    m_claimed = m_count;
     return status;
 }
 

@@ -46,9 +46,14 @@ public:
     // Rows by the header as last read, never more than the file holds.
     std::uint32_t count() const { return m_count; }
     Status refreshCount();
+    // Damaged when the header counts rows that the file does not hold, or when more rows lie
+    // behind the count than the one that an interrupted append leaves. REQUIRES: a fresh count.
+    Status checkCount();
+    // Counts what the file holds, such rows with it. REQUIRES: exclusive().
+    Status mendCount();
     // Reads rows into `into`; fewer bytes than asked for are Damaged.
     Status readRows(std::uint32_t first, ByteSpan into);
-    // Refuses a table that is full. REQUIRES: a fresh count.
+    // Refuses a table that is full or has a wrong count. REQUIRES: a fresh count.
     Status checkRoom();
 
     // ---- one save (TableSave.cpp). REQUIRES: the commit lock, exclusive
@@ -103,6 +108,8 @@ private:
 
     Status openBeside();
     Status openIndex(const std::string &path, bool readOnly);
+    Status takeCount(std::uint32_t claimed);
+    Result<std::uint32_t> rowsBehind(std::uint32_t most);
     Status writeOutCount();
     void nameTargets();
 
@@ -126,7 +133,8 @@ private:
     LockedFile m_table;
     TableHeader m_header;
     std::uint32_t m_count = 0;
-    std::uint64_t m_size = 0; // bytes, as of the last look
+    std::uint32_t m_claimed = 0; // the header's count, as of the last look
+    std::uint64_t m_size = 0;    // bytes, as of the last look
     std::optional<LockedFile> m_indexFile;
     std::unique_ptr<IndexFile> m_index;
     std::unique_ptr<MemoFile> m_memo;

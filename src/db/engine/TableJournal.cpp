@@ -165,6 +165,8 @@ Status TableJournal::commit(Pieces &pieces, Durability durability, bool &committ
     if (Status status = measure(m_head.sizes); !status.ok())
         return status;
     m_head.begun = number;
+    if (durability == Durability::Full)
+        m_head.flags |= JournalHeader::kPromised;
     if (Status status = m_journal.write(m_head); !status.ok())
         return abandon(status, false);
     const bool network = m_journal.onNetwork();
@@ -252,7 +254,7 @@ void TableJournal::finish(const Pieces &pieces, std::size_t length, bool durable
         (void)m_journal.sync();
 }
 
-Status TableJournal::newEpoch()
+Status TableJournal::newEpoch(bool withSync)
 {
     m_head.salt = newSalt();
     m_head.first = m_head.applied + 1;
@@ -264,7 +266,7 @@ Status TableJournal::newEpoch()
     Status status = m_journal.write(m_head);
     // Before a record of the new salt is written over one of the old that a power cut would
     // bring back.
-    if (status.ok())
+    if (status.ok() && withSync)
         status = m_journal.sync();
     if (status.ok())
         m_journal.shrink();
@@ -282,9 +284,14 @@ Status TableJournal::checkpoint()
         if (!result.ok())
             return result.error();
     }
+    // Saves that were to survive a killed process only are in the files by now.
+    constexpr std::uint32_t synced =
+        JournalHeader::kPromised | JournalHeader::kBulk | JournalHeader::kForce;
+    if (!m_head.has(synced))
+        return newEpoch(false);
     Status status = syncAll();
     if (status.ok())
-        return newEpoch();
+        return newEpoch(true);
     // The system may have dropped what it could not write: next time all is written again.
     m_head.flags |= JournalHeader::kForce;
     (void)m_journal.write(m_head);
@@ -340,7 +347,7 @@ Status TableJournal::endBulk()
     m_inBulk = false; // with the mark left standing, whoever comes next mends the table
     if (Status status = syncAll(); !status.ok())
         return status;
-    if (Status status = newEpoch(); !status.ok())
+    if (Status status = newEpoch(true); !status.ok())
         return status;
     if (m_journal.remove().ok())
         m_state = Journal::State::Missing;

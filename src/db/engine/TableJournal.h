@@ -68,7 +68,7 @@ private:
     Status abandon(Status failure, bool recordWritten);
     Status apply(const Pieces &pieces);
     void finish(const Pieces &pieces, std::size_t length, bool durable);
-    Status newEpoch();
+    Status newEpoch(bool withSync);
 
     // TableRecovery.cpp
     bool restarted() const;

@@ -288,7 +288,7 @@ Status TableJournal::rebuilt()
     if (Status status = syncAll(); !status.ok())
         return status;
     m_head.flags &= ~JournalHeader::kRebuild;
-    return newEpoch();
+    return newEpoch(true);
 }
 
 } // namespace norvane::engine

@@ -83,6 +83,7 @@ Status TableFiles::commitSave()
         return status;
     if (m_appends) {
         ++m_count;
+        m_claimed = m_count;
         m_size = m_header.rowPlace(m_count + 1) + 1;
         m_countWaits = exclusive();
     }

@@ -66,6 +66,8 @@ Status Table::reindex()
     if (Status status = store(); !status.ok())
         return status;
     m_batchTag = -1;
+    if (Status status = m_files->mendCount(); !status.ok())
+        return status;
     return m_files->rebuildIndex();
 }
 

@@ -40,6 +40,7 @@ void CsvReader::take(qsizetype count)
 {
     const qsizetype room = std::max<qsizetype>(maxLineBytes - m_line.size(), 0);
     m_line.append(m_block.constData() + m_pos, std::min(count, room));
+    m_cut = m_cut || count > room;
     m_pos += count;
 }
 
@@ -61,6 +62,7 @@ QString CsvReader::decoded() const
 std::optional<QString> CsvReader::readLine()
 {
     m_line.clear();
+    m_cut = false;
     if (!fill())
         return std::nullopt;
     while (fill()) {

@@ -18,6 +18,7 @@ public:
     bool open();
     // The next line without its end; nothing at the end of the file or after a fault.
     std::optional<QString> readLine();
+    bool lineWasCut() const { return m_cut; }
     bool failed() const { return m_file.error() != QFileDevice::NoError; }
     QString faultText() const { return m_file.errorString(); }
 
@@ -31,5 +32,6 @@ private:
     QByteArray m_block;
     qsizetype m_pos = 0;
     QByteArray m_line;
+    bool m_cut = false;
     bool m_utf8 = false;
 };

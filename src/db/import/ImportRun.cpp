@@ -48,6 +48,8 @@ ImportResult ImportRun::ImportData_Detail(const QString &path)
 {
     m_result = {};
     QString fault;
+    // A folder that goes away on the run fails every row that is left.
+    const clsDB::TellOnce once(m_db);
     WaitDlg progress;
     clsSystem::WaitDlgShow(progress, QStringLiteral("Import Data"),
                            QStringLiteral("Integrating data. Please wait..."), true, false);

@@ -152,7 +152,11 @@ bool clsImportData::ValidateRows(const QString &path, const clsImportColDefs &co
         for (auto line = reader.readLine(); line && !cancelled; line = reader.readLine()) {
             if (rowNumber > 1) {
                 ++rowCount;
-                if (!ValidateARow(rowNumber, clsSystem::Trim(*line), columns, headings, errors))
+                if (reader.lineWasCut())
+                    errors += FmtRowNum(rowNumber) + QLatin1String(": The line is too long.") +
+                              clsSystem::CRLF();
+                if (reader.lineWasCut() ||
+                    !ValidateARow(rowNumber, clsSystem::Trim(*line), columns, headings, errors))
                     ++badRows;
             }
             if (badRows > maxBadRows) {
