@@ -4,6 +4,7 @@
 #include "common/base/clsSystem.h"
 #include "common/base/Failure.h"
 #include "common/base/Host.h"
+#include "common/base/Hourglass.h"
 #include "db/FieldText.h"
 #include "db/TableUse.h"
 
@@ -16,13 +17,6 @@ const QString RowidField = QStringLiteral("rowid");
 const QString TypeField = QStringLiteral("type");
 const QString DescField = QStringLiteral("desc");
 constexpr qint32 NoEntry = -1;
-
-struct Hourglass {
-    Hourglass() { clsSystem::WaitStart(); }
-    ~Hourglass() { clsSystem::WaitEnd(); }
-    Hourglass(const Hourglass &) = delete;
-    Hourglass &operator=(const Hourglass &) = delete;
-};
 
 // Drawing is frozen while it lives.
 class Loading

@@ -4,25 +4,13 @@
 
 #include "common/base/clsSystem.h"
 #include "common/base/Failure.h"
+#include "common/base/Hourglass.h"
 #include "common/form/SetLabels.h"
 #include "common/ui/Controls.h"
 #include "common/ui/frmRichEdit.h"
 #include "common/ui/Switchboard.h"
 
 #include <QCloseEvent>
-
-namespace
-{
-
-// Ends on every way out; what is called in between may end it earlier.
-struct Hourglass {
-    Hourglass() { clsSystem::WaitStart(); }
-    ~Hourglass() { clsSystem::WaitEnd(); }
-    Hourglass(const Hourglass &) = delete;
-    Hourglass &operator=(const Hourglass &) = delete;
-};
-
-} // namespace
 
 RecordForm::RecordForm(RecordSpec spec, QWidget *parent)
     : FormWindow(parent), m_spec(std::move(spec))

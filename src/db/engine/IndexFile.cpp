@@ -236,6 +236,20 @@ Status IndexFile::refresh()
     return m_impl->pages.refresh();
 }
 
+namespace
+{
+
+std::vector<IndexEntry> entriesOf(const IndexLeaf &leaf, std::size_t first, std::size_t end)
+{
+    std::vector<IndexEntry> entries;
+    entries.reserve(end - first);
+    for (std::size_t i = first; i < end; ++i)
+        entries.push_back({std::string(leaf.key(i)), leaf.record(i)});
+    return entries;
+}
+
+} // namespace
+
 Result<std::vector<IndexEntry>> IndexFile::entriesFrom(int tag, std::string_view key,
                                                        std::uint32_t record, std::size_t most)
 {
@@ -247,16 +261,12 @@ Result<std::vector<IndexEntry>> IndexFile::entriesFrom(int tag, std::string_view
         IndexTree(m_impl->pages, m_impl->at(tag).shape).seek(key, record, path);
     if (!found.ok())
         return found.error();
-    std::vector<IndexEntry> entries;
     if (!*found)
-        return entries;
+        return std::vector<IndexEntry>();
     const IndexLeaf &leaf = path.leaf().page->leaf;
     const std::size_t first = path.leaf().entry;
     const std::size_t end = first + std::min(most, leaf.count() - first);
-    entries.reserve(end - first);
-    for (std::size_t i = first; i < end; ++i)
-        entries.push_back({std::string(leaf.key(i)), leaf.record(i)});
-    return entries;
+    return entriesOf(leaf, first, end);
 }
 
 Result<std::vector<IndexEntry>> IndexFile::entriesBefore(int tag, std::string_view key,
@@ -270,16 +280,12 @@ Result<std::vector<IndexEntry>> IndexFile::entriesBefore(int tag, std::string_vi
         IndexTree(m_impl->pages, m_impl->at(tag).shape).seekBefore(key, record, path);
     if (!found.ok())
         return found.error();
-    std::vector<IndexEntry> entries;
     if (!*found)
-        return entries;
+        return std::vector<IndexEntry>();
     const IndexLeaf &leaf = path.leaf().page->leaf;
     const std::size_t end = path.leaf().entry + 1;
     const std::size_t first = end - std::min(most, end);
-    entries.reserve(end - first);
-    for (std::size_t i = first; i < end; ++i)
-        entries.push_back({std::string(leaf.key(i)), leaf.record(i)});
-    return entries;
+    return entriesOf(leaf, first, end);
 }
 
 Status IndexFile::insert(int tag, std::string_view key, std::uint32_t record)
