@@ -4,7 +4,8 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
-#include <unordered_map>
+#include <string>
+#include <vector>
 
 using namespace norvane::engine;
 
@@ -62,27 +63,91 @@ private:
     std::string m_text;
 };
 
-// Names by number, each sought once.
+// Names by number. The numbers of a table lie close together, as a counter gives them out.
 class Names
 {
 public:
-    Names(Handle table, const char *field) : m_table(table), m_name(d4field(table, field))
+    Names(Handle table, const char *field) : m_table(table), m_name(d4field(table, field)) {}
+
+    void want(int id)
     {
-        d4tagSelect(table, d4tag(table, "rowid"));
+        const auto place = static_cast<std::size_t>(id);
+        if (place >= m_known.size())
+            m_known.resize(2 * place + 1);
+        m_wanted += m_known[place].wanted ? 0U : 1U;
+        m_known[place].wanted = true;
     }
-    const std::string &of(int id)
+    // Finds the names that are wanted. Many of them are found soonest in one pass over the table,
+    // few by seeking each.
+    void learn()
     {
-        const auto [place, isNew] = m_known.try_emplace(id);
-        if (isNew && d4seekDouble(m_table, id) == r4success)
-            place->second = trimmedText(m_name);
-        return place->second;
+        if (m_wanted >= d4recCountDo(m_table) / kSeekCost)
+            pass();
+        else
+            seekEach();
     }
+    const std::string &of(int id) const { return m_known[static_cast<std::size_t>(id)].text; }
 
 private:
+    static constexpr std::size_t kSeekCost = 16; // rows passed in the time of a seek
+    struct Name {
+        bool wanted = false;
+        std::string text;
+    };
+
+    void pass()
+    {
+        const Handle rowId = d4field(m_table, "rowid");
+        d4tagSelect(m_table, 0);
+        for (Code code = d4top(m_table); code == r4success; code = d4skip(m_table, 1)) {
+            const auto id = static_cast<std::size_t>(f4long(rowId));
+            if (id < m_known.size() && m_known[id].wanted && !d4deleted(m_table))
+                m_known[id].text = trimmedText(m_name);
+        }
+    }
+    void seekEach()
+    {
+        d4tagSelect(m_table, d4tag(m_table, "rowid"));
+        for (std::size_t id = 0; id < m_known.size(); ++id) {
+            if (m_known[id].wanted && d4seekDouble(m_table, static_cast<double>(id)) == r4success)
+                m_known[id].text = trimmedText(m_name);
+        }
+    }
+
     Handle m_table;
     Handle m_name;
-    std::unordered_map<int, std::string> m_known;
+    std::size_t m_wanted = 0;
+    std::vector<Name> m_known;
 };
+
+// The places of texts in the order of the texts. Their first bytes lie together, so that hardly
+// any text has to be looked at.
+std::vector<std::uint32_t> sortedPlaces(const std::vector<std::string> &texts)
+{
+    struct Item {
+        std::uint64_t start;
+        std::uint32_t place;
+    };
+    std::vector<Item> items(texts.size());
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        std::uint64_t start = 0;
+        for (std::size_t b = 0; b < sizeof start; ++b)
+            start =
+                start << 8 | (b < texts[i].size() ? static_cast<unsigned char>(texts[i][b]) : 0);
+        items[i] = {start, static_cast<std::uint32_t>(i)};
+    }
+    std::sort(items.begin(), items.end(), [&texts](const Item &a, const Item &b) {
+        if (a.start != b.start)
+            return a.start < b.start;
+        const int order = texts[a.place].compare(texts[b.place]);
+        return order != 0 ? order < 0 : a.place < b.place;
+    });
+    std::vector<std::uint32_t> places;
+    places.reserve(items.size());
+    for (const Item &item : items)
+        places.push_back(item.place);
+    return places;
+}
 
 } // namespace
 
@@ -197,27 +262,44 @@ std::vector<Store::Row> EngineStore::report(int status)
     const Handle assignedTo = issues.field("assignedto");
     const Handle priority = issues.field("priority");
     const Handle resolved = issues.field("resolvedt");
-    std::vector<std::pair<std::string, Row>> rows;
+    struct Line {
+        int customer;
+        int user;
+        Row row;
+    };
+    std::vector<Line> lines;
+    std::vector<std::string> sortedBy;
     issues.select("status");
     for (bool more = issues.seek(status); more && f4long(m_opened->status) == status;
          more = d4skip(issues.table(), 1) == r4success) {
-        Row row{std::to_string(f4long(rowId)),
-                companies.of(f4long(m_opened->custId)),
-                trimmedText(m_opened->shortDesc),
-                logins.of(f4long(assignedTo)),
-                statuses.of(status),
-                std::to_string(f4long(priority)),
-                std::string(bytesOf(m_opened->submitted)),
-                std::string(bytesOf(resolved))};
-        std::string key = uppercase(row[2]);
-        rows.emplace_back(std::move(key), std::move(row));
+        std::string text = trimmedText(m_opened->shortDesc);
+        sortedBy.push_back(uppercase(text));
+        lines.push_back({f4long(m_opened->custId),
+                         f4long(assignedTo),
+                         {std::to_string(f4long(rowId)),
+                          {},
+                          std::move(text),
+                          {},
+                          {},
+                          std::to_string(f4long(priority)),
+                          std::string(bytesOf(m_opened->submitted)),
+                          std::string(bytesOf(resolved))}});
+        companies.want(lines.back().customer);
+        logins.want(lines.back().user);
     }
-    std::stable_sort(rows.begin(), rows.end(),
-                     [](const auto &a, const auto &b) { return a.first < b.first; });
+    statuses.want(status);
+    companies.learn();
+    logins.learn();
+    statuses.learn();
     std::vector<Row> sorted;
-    sorted.reserve(rows.size());
-    for (auto &[key, row] : rows)
-        sorted.push_back(std::move(row));
+    sorted.reserve(lines.size());
+    for (const std::uint32_t place : sortedPlaces(sortedBy)) {
+        Line &line = lines[place];
+        line.row[1] = companies.of(line.customer);
+        line.row[3] = logins.of(line.user);
+        line.row[4] = statuses.of(status);
+        sorted.push_back(std::move(line.row));
+    }
     return sorted;
 }
 

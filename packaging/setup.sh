@@ -1,9 +1,12 @@
-# Sourced by ./run, ./test and .ci/run: installs the Debian packages that are missing, and only those.
+# Sourced by ./run, ./test, .ci/run and tests/long.sh: installs the Debian packages that are missing, and only those.
 # "a|b" names alternatives; the first one that this release of Debian or Ubuntu has is taken.
 
 norvane_build_packages=(g++ cmake ninja-build ccache qt6-base-dev "qt6-svg-dev|libqt6svg6-dev" fonts-dejavu-core)
-norvane_test_packages=(libgtest-dev)
+norvane_test_packages=(libgtest-dev poppler-utils)
 norvane_lint_packages=(clang-format clang-tidy)
+norvane_fuzz_packages=(clang "libclang-rt-dev|libclang-rt-14-dev") # libFuzzer is in the second
+norvane_long_packages=("${norvane_fuzz_packages[@]}" strace)
+norvane_reader_packages=(libdbd-xbase-perl gdal-bin) # programs that are not ours and read tables
 
 package_installed() {
     [ "$(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null)" = installed ]

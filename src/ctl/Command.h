@@ -46,8 +46,11 @@ QString wrappedList(const QStringList &items);
 
 Command newCommand();
 Command demoCommand();
+Command bulkCommand();
 Command importCommand();
 Command dumpCommand();
 Command checkCommand();
+Command repairCommand();
+Command reindexCommand();
 
 } // namespace ctl

@@ -1,4 +1,5 @@
 #include "ctl/DatabaseFolder.h"
+#include "ctl/DemoRecords.h"
 #include "ctl/ImportTarget.h"
 
 #include "common/base/AppInfo.h"
@@ -37,7 +38,7 @@ bool fill(clsDB &db, Console &console)
             return false;
         console.out << QStringLiteral("Added %1 %2.\n").arg(*count).arg(target->things);
     }
-    return true;
+    return addDemoRecords(db, folder, console);
 }
 
 int run(const Arguments &arguments, Console &console)
@@ -67,9 +68,11 @@ Command demoCommand()
             {},
             QStringLiteral("Create a database with made-up customers"),
             QStringLiteral("Like 'new', and then adds the customers and lists that come with "
-                           "Norvane, in the way\nan import does. The login name and password are "
-                           "both SYSOP. All persons, firms,\ntelephone numbers and addresses are "
-                           "invented."),
+                           "Norvane, in the way\nan import does, and what they hold and have "
+                           "raised, with dates up to today. The login\nname and password are "
+                           "both SYSOP; of the four users that are added, each one's\npassword is "
+                           "the login name. All persons, firms, telephone numbers and addresses "
+                           "are\ninvented."),
             run};
 }
 

@@ -1,5 +1,6 @@
 #include "ctl/DatabaseFolder.h"
 #include "ctl/TableDump.h"
+#include "ctl/TableNames.h"
 
 #include "db/clsDB.h"
 
@@ -11,42 +12,12 @@ namespace ctl
 namespace
 {
 
-struct TableName {
-    const char *name;
-    schema::Table table;
-};
-
-constexpr TableName TableNames[] = {
-    {"customers", schema::Table::Customer},
-    {"subscriptions", schema::Table::Customer2PS},
-    {"issues", schema::Table::Issues},
-    {"actions", schema::Table::IssuesActions},
-    {"templates", schema::Table::IssuesTemplates},
-    {"users", schema::Table::User},
-    {"reports", schema::Table::Report},
-    {"lookups", schema::Table::Category},
-    {"counters", schema::Table::LastID},
-    {"parameters", schema::Table::Param},
-};
-
-QStringList tableNames()
-{
-    QStringList names;
-    for (const TableName &entry : TableNames)
-        names << QLatin1String(entry.name);
-    return names;
-}
-
 // The name of the data file as the command line gives it: a table's name or a file's. Empty when
 // it is neither.
 QString wantedFile(const QString &name)
 {
-    for (const TableName &entry : TableNames)
-        if (name.compare(QLatin1String(entry.name), Qt::CaseInsensitive) == 0)
-            return schema::table(entry.table).dataFile();
-    for (const schema::TableInfo &table : schema::tables())
-        if (name.compare(table.baseName, Qt::CaseInsensitive) == 0)
-            return table.dataFile();
+    if (const schema::TableInfo *table = tableNamed(name))
+        return table->dataFile();
     return name.endsWith(QLatin1String(".dbf"), Qt::CaseInsensitive) ? name : QString();
 }
 

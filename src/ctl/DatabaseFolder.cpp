@@ -77,24 +77,76 @@ Option userOption()
             QStringLiteral("log in as NAME; SYSOP unless given")};
 }
 
-bool logIn(clsDB &db, const QString &dir, const Arguments &arguments, Console &console)
+namespace
 {
-    if (!folderIsThere(dir, console) || !db.DirContainsValidData(dir))
-        return false;
-    const QString user = arguments.values.value(userOption().name, QString::fromUtf16(DefaultUser));
-    const QString password = console.password();
+
+// Asked once; false, after a message, when none was given.
+bool askPassword(const QString &user, Console &console, QString &password)
+{
+    password = console.password();
     if (password.isEmpty())
         return refuse(QStringLiteral("No password was given for '%1'. Set the environment variable "
                                      "NORVANE_PASSWORD or write it on standard input.")
                           .arg(user),
                       console);
     console.err.flush();
+    return true;
+}
+
+QString userOf(const Arguments &arguments)
+{
+    return arguments.values.value(userOption().name, QString::fromUtf16(DefaultUser));
+}
+
+} // namespace
+
+bool logIn(clsDB &db, const QString &dir, const Arguments &arguments, Console &console)
+{
+    if (!folderIsThere(dir, console) || !db.DirContainsValidData(dir))
+        return false;
+    const QString user = userOf(arguments);
+    QString password;
+    if (!askPassword(user, console, password))
+        return false;
     if (db.OpenUnattended(dir, user, password))
-        return true;
+        return !db.IsReadOnly(); // which was told
     return refuse(QStringLiteral("The database '%1' was not opened for '%2'. Unless another reason "
                                  "stands above, the login name or password is wrong, or the "
                                  "login is not active.")
                       .arg(shownPath(dir), user),
+                  console);
+}
+
+Option withoutLoginOption()
+{
+    return {QStringLiteral("--without-login"), QString(),
+            QStringLiteral("only for a folder whose table of users cannot be read")};
+}
+
+bool logInForMaintenance(clsDB &db, const QString &dir, const Arguments &arguments,
+                         Console &console)
+{
+    if (!db.OpenForMaintenance(dir))
+        return false;
+    const bool without = arguments.has(withoutLoginOption().name);
+    if (!db.UsersReadable())
+        return without || refuse(QStringLiteral("The table of users cannot be read, so nobody can "
+                                                "log in. If you may change the files of the "
+                                                "folder, use --without-login."),
+                                 console);
+    if (without)
+        return refuse(QStringLiteral("The table of users can be read. Log in with --user NAME "
+                                     "instead of --without-login."),
+                      console);
+    const QString user = userOf(arguments);
+    QString password;
+    if (!askPassword(user, console, password))
+        return false;
+    if (db.LogInForMaintenance(user, password))
+        return db.Perm_DBAdmin();
+    return refuse(QStringLiteral("'%1' is not logged in: the login name or password is wrong, or "
+                                 "the login is not active.")
+                      .arg(user),
                   console);
 }
 

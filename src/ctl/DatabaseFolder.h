@@ -18,7 +18,13 @@ bool fileIsReadable(const QString &path, Console &console);
 bool prepareNewFolder(const QString &dir, Console &console);
 
 Option userOption();
-// Opens the folder as the user of --user with the password of the console.
+// Opens the folder, for writing, as the user of --user with the password of the console.
 bool logIn(clsDB &db, const QString &dir, const Arguments &arguments, Console &console);
+
+Option withoutLoginOption();
+// The same for a folder that may be damaged, for a login with the right of administration; or
+// without any login when --without-login is given and the table of users cannot be read.
+bool logInForMaintenance(clsDB &db, const QString &dir, const Arguments &arguments,
+                         Console &console);
 
 } // namespace ctl

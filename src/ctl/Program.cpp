@@ -97,7 +97,8 @@ int dispatch(const QStringList &words, Console &console)
 
 QList<Command> commands()
 {
-    return {newCommand(), demoCommand(), importCommand(), dumpCommand(), checkCommand()};
+    return {newCommand(),  demoCommand(),  bulkCommand(),   importCommand(),
+            dumpCommand(), checkCommand(), repairCommand(), reindexCommand()};
 }
 
 int runProgram(const QStringList &words, Console &console)

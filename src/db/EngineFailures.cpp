@@ -46,10 +46,20 @@ QString damageText(const Error &error)
     return text;
 }
 
+// The text itself, or the row's pointer to it.
+bool isMemoDamage(const Error &error)
+{
+    return error.kind == ErrorKind::Damaged &&
+           (fileName(error).endsWith(u".fpt", Qt::CaseInsensitive) ||
+            error.detail.starts_with("a memo pointer"));
+}
+
 } // namespace
 
 void EngineFailures::note(const Error &error)
 {
+    if (m_passingOverMemos > 0 && isMemoDamage(error))
+        return;
     if (!m_first && error.kind != ErrorKind::Locked)
         m_first = error;
 }
@@ -94,6 +104,9 @@ QString engineFailureText(const Error &error)
                               "another computer, please verify that computer is up and running, "
                               "and then try again.")
             .arg(file);
+    case ErrorKind::NoMemory:
+        return QStringLiteral("There is not enough memory. Nothing was saved. Please close other "
+                              "programs and try again.");
     case ErrorKind::None:
     case ErrorKind::Misuse:
     case ErrorKind::Io:

@@ -15,9 +15,13 @@ public:
     void show();
     void clear() { m_first = {}; }
     bool any() const { return bool(m_first); }
+    // Between these two damaged memos are not kept: a search over many counts them itself.
+    void beginPassingOverMemos() { ++m_passingOverMemos; }
+    void endPassingOverMemos() { --m_passingOverMemos; }
 
 private:
     norvane::engine::Error m_first;
+    int m_passingOverMemos = 0;
 };
 
 // One or two sentences: what is wrong with which file, and what to do about it.

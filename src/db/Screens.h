@@ -30,6 +30,8 @@ struct Screens {
     std::function<bool()> unloadAll;
     // A database was opened (menu captions follow its custom labels).
     std::function<void()> databaseOpened;
+    // The open database takes no changes any more (clsDB::IsReadOnly).
+    std::function<void()> databaseReadOnly;
 };
 
 Screens &screens();

@@ -24,6 +24,11 @@ public:
     // order and seeks find nothing. Before any select, seeks use the table's first tag.
     bool select(const QString &tag);
     bool seek(double key) { return m_seekable && norvane::engine::d4seekDouble(m_table, key) == 0; }
+    // The engine's answer, which tells a row that is not there from one that cannot be looked for.
+    norvane::engine::Code seekCode(double key)
+    {
+        return m_seekable ? norvane::engine::d4seekDouble(m_table, key) : norvane::engine::r4noRow;
+    }
     bool seekNext(double key) { return norvane::engine::d4seekNextDouble(m_table, key) == 0; }
     // Seeks the whole text, not just a beginning; `fieldName` is the field the tag is made of.
     bool seekText(const QString &text, const QString &fieldName);
@@ -78,6 +83,9 @@ private:
 // of it is kept. The new row's locks are given back.
 bool storeChange(clsDB::Handle table);
 bool storeNewRow(clsDB::Handle table);
+
+// Tells the session which tags our tables have, so that a missing or foreign one is built anew.
+void expectOurTags(clsDB::Handle session);
 
 // A name as the engine takes it.
 std::string engineText(const QString &text);

@@ -1,5 +1,6 @@
 #include "db/clsCustomLabels.h"
 
+#include "common/base/clsSystem.h"
 #include "db/clsDB.h"
 
 #include <span>
@@ -100,6 +101,32 @@ QString clsCustomLabels::GetPSLabelName(const QString &field, bool addColon) con
 QString clsCustomLabels::GetIssueLabelName(const QString &field, bool addColon) const
 {
     return GetCurrentLabelName(fileOf(schema::Table::Issues), field, addColon);
+}
+
+QList<clsCustomLabels::MenuLabel> clsCustomLabels::MenuLabels() const
+{
+    const auto customer = [this](const char *field) {
+        return GetCustomerLabelName(QLatin1String(field));
+    };
+    const auto subscription = [this](const char *field) {
+        return GetPSLabelName(QLatin1String(field));
+    };
+    QList<MenuLabel> labels{
+        {QStringLiteral("CATCUST"), u"Customer " % customer("custcat")},
+        {QStringLiteral("CATSTATES"), customer("state")},
+        {QStringLiteral("CATCOUNTRIES"), customer("country")},
+        {QStringLiteral("CATICAT"), u"Issue " % GetIssueLabelName(QStringLiteral("issuecat"))},
+        {QStringLiteral("CATCONT"), subscription("conttype")},
+        {QStringLiteral("CATCONTDUR"), subscription("contdur")}};
+    for (MenuLabel &label : labels)
+        label.caption = ShortName(label.caption);
+    return labels;
+}
+
+QString clsCustomLabels::ShortName(const QString &name)
+{
+    constexpr int RoomyLength = 40;
+    return clsSystem::StrTruncate(name, RoomyLength);
 }
 
 QString clsCustomLabels::GetDefaultLabelName(const QString &tableName, const QString &field)

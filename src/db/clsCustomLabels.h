@@ -2,6 +2,7 @@
 // the name it came with. Names are read from the parameters whenever they are asked for.
 #pragma once
 
+#include <QList>
 #include <QString>
 
 class clsCustomLabels
@@ -14,6 +15,15 @@ public:
     QString GetCustomerLabelName(const QString &field, bool addColon = false) const;
     QString GetPSLabelName(const QString &field, bool addColon = false) const;
     QString GetIssueLabelName(const QString &field, bool addColon = false) const;
+
+    // What the commands that edit renameable lists are called: plain text, shortened when it is
+    // very long. Keys are those of the toolbar's items, such as "CATCUST".
+    struct MenuLabel {
+        QString key, caption;
+    };
+    QList<MenuLabel> MenuLabels() const;
+    // A name for a place with little room: a longer one ends in "...".
+    static QString ShortName(const QString &name);
 
     static QString GetDefaultLabelName(const QString &tableName, const QString &field);
     static QString GetCustomerDefaultLabelName(const QString &field, bool addColon = false);

@@ -1,9 +1,9 @@
 // The open database: folder, engine session, logged-in user, and every operation between a screen
 // and a data file. One instance, gDB, serves the program; tests make more to play other stations.
 //
-// Sections follow the source files: clsDBLifecycle.cpp, clsDBFiles.cpp, clsDBTables.cpp,
-// clsDBRecords.cpp, clsDBRows.cpp, clsDBIds.cpp, clsDBLogin.cpp, clsDBEditMarks.cpp,
-// clsDBLookups.cpp, clsDBCustomers.cpp.
+// Sections follow the source files: clsDBLifecycle.cpp, clsDBFiles.cpp, clsDBAttachments.cpp,
+// clsDBTables.cpp, clsDBReadOnly.cpp, clsDBRecords.cpp, clsDBRows.cpp, clsDBIds.cpp,
+// clsDBLogin.cpp, clsDBEditMarks.cpp, clsDBLookups.cpp, clsDBCustomers.cpp.
 #pragma once
 
 #include "db/engine/engine.h"
@@ -11,11 +11,15 @@
 #include "db/ListSink.h"
 #include "db/RecColl.h"
 #include "db/Schema.h"
+#include "db/StationWatch.h"
 
+#include <QDateTime>
 #include <QString>
 #include <QStringList>
 
 #include <vector>
+
+class AttachmentFolder;
 
 class clsDB
 {
@@ -43,12 +47,17 @@ public:
     void SetLastDBDir(const QString &dir);
     QString GetLastDBDir() const;
     void ClearLastDBDir();
-    void CreateAttachDir();
     QString DBDefaultPath() const;
     // Without the login box, for programs without a screen: session and login state only.
     bool OpenUnattended(const QString &dir, const QString &login, const QString &password);
     // The same with no user at all, for reading.
     bool OpenForReading(const QString &dir);
+    // For putting a folder right that may be damaged or lack files: a session without any check
+    // and, until the second call, without a user.
+    bool OpenForMaintenance(const QString &dir);
+    bool LogInForMaintenance(const QString &login, const QString &password);
+    // Somebody could log in: the table of users can be read and has an active one.
+    bool UsersReadable();
     // Tests: the next session works on these files (not owned); null: the system's own.
     void useFiles(norvane::engine::FileSystem *files) { m_files = files; }
 
@@ -66,13 +75,22 @@ public:
     QString ParamTable() const { return TablePath(schema::Table::Param); }
     QString ReportColumnsTable() const; // in the program's folder
     QString MailMergeTable() const;     // in the program's folder
-    QString AttachPath() const;
     static QString MakePath(const QString &dir, const QString &file);
     QString DBMSFiles() const;
     struct FileTriple {
         QString table, index, indexSource;
     };
     QList<FileTriple> DataFilePaths() const;
+
+    // ---- attachments (clsDBAttachments.cpp). Each record's lie in a folder of its own; `kind` is
+    // "_ps" for a subscription, "_i" for an issue.
+    static QString AttachDir() { return QStringLiteral("nvnattach"); }
+    QString AttachPath() const;
+    QString GetAttachmentSubDir(qint32 rowid, const QString &kind) const;
+    AttachmentFolder Attachments(qint32 rowid, const QString &kind) const;
+    void CreateAttachDir(); // for all of them; told when it cannot be made
+    // The record's folder with all that lies in it. False when something of it stayed.
+    bool DeleteAttachments(qint32 rowid, const QString &kind);
 
     // ---- tables (clsDBTables.cpp)
     // A short-lived table handle, above 0; 0 after a message when it cannot be opened. The caller
@@ -94,6 +112,33 @@ public:
         clsDB &m_db;
     };
 
+    // While one lives, damaged memos are not told of when the tables are closed: a search over many
+    // counts them itself.
+    class MemoDamageCounted
+    {
+    public:
+        explicit MemoDamageCounted(clsDB &db) : m_db(db)
+        {
+            m_db.m_failures.beginPassingOverMemos();
+        }
+        ~MemoDamageCounted() { m_db.m_failures.endPassingOverMemos(); }
+        MemoDamageCounted(const MemoDamageCounted &) = delete;
+        MemoDamageCounted &operator=(const MemoDamageCounted &) = delete;
+
+    private:
+        clsDB &m_db;
+    };
+
+    // ---- reading only (clsDBReadOnly.cpp)
+    // A table is damaged, or the locks of two stations do not reach each other: nothing is saved
+    // any more until the database is opened again. That was or will be told, once.
+    bool IsReadOnly() const { return !m_readOnlyReason.isEmpty(); }
+    // True when changes may be saved; otherwise says why not. Commands that change something ask
+    // before they begin.
+    bool MayWrite();
+    // Looks after the other stations when it is time to; called by a timer and by the commands.
+    void WatchStations();
+
     // ---- records (clsDBRecords.cpp)
     // Stores the record; a new one (_rowid below 1) gets its identifier, which replaces _rowid.
     bool SaveRecord(RecColl &record, bool NoMsg = false, Handle table = 0);
@@ -110,7 +155,8 @@ public:
     bool RecordExistsNoTag(int kind, const QString &value, const QString &path,
                            const QString &field, Handle table = 0);
     bool DeleteRecord(qint32 rowid, const QString &path, Handle table = 0);
-    void DeleteAllRecords(qint32 key, const QString &path, const QString &tag, Handle table = 0);
+    // Every row with that key in the tag. False when some are left; that was or will be told.
+    bool DeleteAllRecords(qint32 key, const QString &path, const QString &tag, Handle table = 0);
     qint32 GetRecCount(const QString &path, const QString &tag);     // rows the tag holds; -1
     qint32 GetRecCountFast(const QString &path, const QString &tag); // rows in the file; -1
     static bool TorF2Bool(const QString &value);
@@ -125,6 +171,8 @@ public:
     // ---- login and rights (clsDBLogin.cpp)
     static constexpr char AdminCode = '1';
     static constexpr char UserCode = '0';
+    // The administrator that every database comes with.
+    static QString DefaultLogin() { return QStringLiteral("sysop"); }
     const QString &LoginName() const { return m_sLoginName; }
     qint32 LoginID() const { return m_nLoginID; }
     bool IsAdminUser() const { return m_bIsAdmin; }
@@ -134,6 +182,8 @@ public:
                      QString &permissions);
     bool PromptLogin(const QString &dir);
     QString GetUserPassword(const QString &login);
+    // An empty password goes back to the login name. False when it was not stored; that was told.
+    bool SetPassword(qint32 id, const QString &password);
     qint32 GetLoginID(const QString &login);
     QString GetUsername(qint32 id);
     QString GetUsername2(qint32 id, Handle table = 0);
@@ -166,20 +216,30 @@ public:
     bool LoadCbo(ListSink &combo, const QString &path, const QString &keyField,
                  const QString &textField, const QString &typeField, qint32 type,
                  bool clear = false, bool addBlank = false, qint32 selectId = 0);
-    void LoadCbo_Users(ListSink &combo, bool clear = false, bool activeOnly = false);
+    bool LoadCbo_Users(ListSink &combo, bool clear = false, bool activeOnly = false);
     // Opens the category table into `table` when it is below 1, and then closes it again.
     QString GetCategoryDesc(qint32 rowid, Handle table = 0);
     // The entry's rowid, -1 when there is none.
     qint32 CategoryExists(const QString &text, qint32 type, Handle table = 0);
     qint32 AddCategory(const QString &text, qint32 type, Handle table); // new rowid or -1
     qint32 LookupOrAddCategory(const QString &text, qint32 type, Handle table);
-    // True when no row of the table has the rowid in that field.
-    bool CanDeleteItem(qint32 rowid, const QString &path, const QString &field);
+    // One entry of a list in the list's editor, type 0 when the table is the list; `file` is the
+    // table's name for its counter. An id below 1 appends an entry, else that one is renamed. The
+    // entry's rowid; 0 when the text is empty or nothing was stored, which was told.
+    struct ListTable {
+        QString file, path, keyField, textField;
+        qint32 type = 0;
+    };
+    qint32 AddUpdateItem(const ListTable &list, qint32 id, const QString &text);
+    // True when no row of the table has the rowid in that field. A table below 1 is opened here.
+    bool CanDeleteItem(qint32 rowid, const QString &path, const QString &field, Handle table = 0);
 
     // ---- customers shown elsewhere (clsDBCustomers.cpp). A table below 1 is opened and closed
     // here; callers with many rows pass theirs.
     // Company and full name, in the order that the database asks for.
     QString GetCustomername(qint32 custid, Handle customers = 0);
+    // Customers are named without their company.
+    bool CustomerNameAlone();
     // One line: name, place and telephone.
     QString GetCustomerDetail(qint32 custid, Handle customers = 0, Handle categories = 0);
     QString GetCustomerEmail(qint32 custid, Handle customers = 0);
@@ -194,8 +254,18 @@ private:
     void endSession();
     void clearLogin();
     bool acceptLogin(const QString &login, const QString &password);
+    bool startWatch(bool thorough);
+    void noteDeafLocks();
+    void noteDamage(const norvane::engine::Error &damage);
+    void becomeReadOnly(const QString &reason, const QString &notice);
+    void tellReadOnly();
+    bool isTableOfOurs(const QString &path) const;
+    void lookAtTables();
+    qint32 highestIdInUse(const QString &tableName) const;
     QStringList missingFiles(const QString &dir, bool repair) const;
     QString openingHelp() const;
+    bool restoreTable(const QString &dir, const schema::TableInfo &table) const;
+    bool buildMissingIndex(const QString &dir, const schema::TableInfo &table) const;
     bool copyTemplate(const QString &templateName, const QString &dir, const QString &name) const;
 
     bool updateRow(const RecColl &record, Handle table, bool NoMsg);
@@ -212,6 +282,10 @@ private:
     int m_tellingOnce = 0;
     QStringList m_told; // paths, while telling once
     norvane::engine::FileSystem *m_files = nullptr;
+    StationWatch m_watch;
+    QDateTime m_lastBeat;
+    QString m_readOnlyReason; // empty: changes may be saved
+    QString m_readOnlyNotice; // still to be told
     bool m_bIsOpen = false;
     QString m_sDBPath;
     QString m_sStation; // this computer's name, read when the session starts

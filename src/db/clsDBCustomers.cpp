@@ -3,6 +3,7 @@
 
 #include "common/base/clsSystem.h"
 #include "common/base/Failure.h"
+#include "db/search/ShownNames.h"
 #include "db/TableUse.h"
 
 namespace
@@ -18,17 +19,17 @@ QString fullName(const TableUse &customers)
                                    customers.text(QStringLiteral("lastname")));
 }
 
-// "Company (Last, First)", or whichever of the two there is.
 QString companyAndName(const TableUse &customers)
 {
-    const QString company = customers.text(QStringLiteral("company"));
-    QString name = fullName(customers);
-    if (company.isEmpty())
-        return name;
-    return name.isEmpty() ? company : QString(company % u" (" % name % u')');
+    return CustomerNames::composed(customers.text(QStringLiteral("company")), fullName(customers));
 }
 
 } // namespace
+
+bool clsDB::CustomerNameAlone()
+{
+    return GetParamValue(QStringLiteral("CUSTOMERNAME_DISPLAY")) == u"1";
+}
 
 QString clsDB::GetCustomername(qint32 custid, Handle customers)
 {
@@ -36,11 +37,7 @@ QString clsDB::GetCustomername(qint32 custid, Handle customers)
         TableUse rows(*this, CustomerTable(), customers);
         if (!rows)
             return QString();
-        rows.select(RowidTag);
-        if (!rows.seek(custid))
-            return QString();
-        const bool nameAlone = GetParamValue(QStringLiteral("CUSTOMERNAME_DISPLAY")) == u"1";
-        return nameAlone ? fullName(rows) : companyAndName(rows);
+        return CustomerNames(rows.handle(), CustomerNameAlone()).of(custid);
     });
 }
 

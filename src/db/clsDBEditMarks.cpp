@@ -55,7 +55,8 @@ bool clsDB::CheckIfRecNotUnderEdit(const QString &path, const QString &tableName
 void clsDB::SetEditInfo(const QString &path, const QString &tableName, qint32 rowid, bool Clear)
 {
     guarded("clsDB_SetEditInfo", [&] {
-        if (rowid < 1)
+        // A mark that cannot be set is no reason to keep anybody from looking.
+        if (rowid < 1 || IsReadOnly())
             return;
         // Only one's own mark is cleared: the row may have a new editor by now.
         qint32 userid = 0;

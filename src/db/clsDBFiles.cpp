@@ -6,6 +6,8 @@
 #include "common/base/Failure.h"
 #include "common/base/Preferences.h"
 #include "common/base/Prompts.h"
+#include "db/maintenance/IndexRepair.h"
+#include "db/TableUse.h"
 
 #include <QDir>
 #include <QFile>
@@ -14,7 +16,6 @@
 namespace
 {
 
-const QString AttachDir = QStringLiteral("nvnattach");
 const QString LastDBPref = QStringLiteral("db");
 constexpr int PathAccess = 75;
 
@@ -64,11 +65,6 @@ QString clsDB::MailMergeTable() const
     return MakePath(app::programFolder(), QStringLiteral("nvnmm.db_"));
 }
 
-QString clsDB::AttachPath() const
-{
-    return MakePath(m_sDBPath, AttachDir);
-}
-
 QString clsDB::DBMSFiles() const
 {
     QStringList files;
@@ -80,10 +76,10 @@ QString clsDB::DBMSFiles() const
            u"together as a unit\n\n" %
            files.join(u'\n') %
            u"\n\nNOTE: The attachments of your records are stored in the subdirectory '" %
-           AttachDir %
+           AttachDir() %
            u"' under your Norvane Data directory. Therefore, you will also need to back up all "
            u"directories and files under " %
-           AttachDir;
+           AttachDir();
 }
 
 QList<clsDB::FileTriple> clsDB::DataFilePaths() const
@@ -117,8 +113,40 @@ bool clsDB::copyTemplate(const QString &templateName, const QString &dir, const 
            file.setPermissions(file.permissions() | QFile::WriteOwner);
 }
 
-// One name a line. The newer tables are copied from the templates when only they are missing, so a
-// database from before their time is upgraded on opening.
+// The index that a table lacks comes from its rows: an empty one would hide them.
+bool clsDB::buildMissingIndex(const QString &dir, const schema::TableInfo &table) const
+{
+    using namespace norvane::engine;
+    const Handle session = d4init_v(m_files);
+    code4lockAttempts(session, 10);
+    expectOurTags(session);
+    std::vector<RepairLine> report;
+    maintenance::repairWithIndex(session,
+                                 {existingFile(dir, table.dataFile()),
+                                  MakePath(clsSystem::LocalPath(dir), table.indexFile()),
+                                  MakePath(app::programFolder(), table.templateFiles().at(1))},
+                                 report);
+    d4initUndo(session);
+    return !fileMissing(dir, table.indexFile());
+}
+
+// The newer tables are copied from the templates when only they are missing, so a database from
+// before their time is upgraded on opening.
+bool clsDB::restoreTable(const QString &dir, const schema::TableInfo &table) const
+{
+    const QStringList names = table.files();
+    const QStringList templates = table.templateFiles();
+    const bool hasRows = !fileMissing(dir, table.dataFile());
+    bool there = true;
+    for (qsizetype i = 0; i < names.size(); ++i) {
+        const bool fromRows = hasRows && names.at(i) == table.indexFile();
+        if (!fromRows && fileMissing(dir, names.at(i)))
+            there = copyTemplate(templates.at(i), dir, names.at(i)) && there;
+    }
+    return there && (!fileMissing(dir, table.indexFile()) || buildMissingIndex(dir, table));
+}
+
+// One name a line.
 QStringList clsDB::missingFiles(const QString &dir, bool repair) const
 {
     QStringList missing;
@@ -131,11 +159,11 @@ QStringList clsDB::missingFiles(const QString &dir, bool repair) const
     if (!missing.isEmpty() || !repair)
         return missing;
     for (const schema::TableInfo &table : schema::tables()) {
-        const QStringList names = table.files();
-        for (qsizetype i = 0; table.repairable && i < names.size(); ++i) {
-            if (fileMissing(dir, names.at(i)) &&
-                !copyTemplate(table.templateFiles().at(i), dir, names.at(i)))
-                missing.append(names.at(i));
+        if (!table.repairable || restoreTable(dir, table))
+            continue;
+        for (const QString &name : table.files()) {
+            if (fileMissing(dir, name))
+                missing.append(name);
         }
     }
     return missing;
@@ -189,11 +217,13 @@ bool clsDB::NewDB(const QString &dir)
         Table::Category, Table::Customer,      Table::Customer2PS,     Table::LastID,
         Table::Issues,   Table::IssuesActions, Table::IssuesTemplates, Table::User,
         Table::Report,   Table::Param};
+    QStringList made;
     const bool created = guarded("clsDB_NewDB", false, [&] {
         for (const Table which : order) {
             const schema::TableInfo &table = schema::table(which);
             const QStringList names = table.files();
             for (qsizetype i = 0; i < names.size(); ++i) {
+                made.append(MakePath(dir, names.at(i)));
                 if (!copyTemplate(table.templateFiles().at(i), dir, names.at(i))) {
                     throw Failure(PathAccess, app::title(),
                                   QStringLiteral("The file '%1' could not be created. The folder "
@@ -205,19 +235,12 @@ bool clsDB::NewDB(const QString &dir)
         return true;
     });
     if (!created) {
+        for (const QString &path : made) // or the next attempt would find them in its way
+            clsSystem::DeleteFile(path);
         prompts::inform(
             QStringLiteral("Please try re-installing %1 to resolve this issue.").arg(app::title()));
     }
     return created;
-}
-
-void clsDB::CreateAttachDir()
-{
-    const QString path = AttachPath();
-    if (!clsSystem::DirExists(path) && !clsSystem::CreateDir(path)) {
-        prompts::warn(
-            QStringLiteral("Unable to create subdirectory for attachments: '%1'").arg(path));
-    }
 }
 
 QString clsDB::DBDefaultPath() const

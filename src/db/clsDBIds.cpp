@@ -7,6 +7,9 @@
 #include "db/FieldText.h"
 #include "db/TableUse.h"
 
+#include <algorithm>
+#include <limits>
+
 using namespace norvane::engine;
 
 namespace
@@ -19,18 +22,45 @@ constexpr qint32 Garbled = -2;
 const QString CounterName = QStringLiteral("tblname");
 const QString ParamName = QStringLiteral("sid");
 
-// Takes the next value of the counter that `rows` stands on. Locking reads the row anew, so what
-// another station counted in the meantime is not given out twice.
-qint32 takeNext(TableUse &rows)
+// The highest identifier in use in the table, as far as one step tells: the last key of its
+// tag, and the row added last, which may be deleted by now. 0 when there is none to be had.
+qint32 highestInUse(Handle session, const std::string &path)
+{
+    const Handle table = d4open(session, path);
+    if (table < 1) {
+        code4errorCode(session, 0);
+        return 0;
+    }
+    qint32 highest = 0;
+    const Handle rowid = d4field(table, "rowid");
+    if (rowid > 0) {
+        const Handle tag = d4tag(table, "rowid");
+        d4tagSelect(table, tag);
+        if (tag > 0 && d4bottom(table) == r4success)
+            highest = f4long(rowid);
+        const std::uint32_t rows = d4recCountDo(table);
+        if (rows > 0 && d4go(table, rows) == r4success)
+            highest = std::max(highest, f4long(rowid));
+    }
+    d4close(table);
+    // Nothing can come behind the last number there is.
+    return highest == std::numeric_limits<qint32>::max() ? 0 : highest;
+}
+
+// Takes the next value of the counter that `rows` stands on, or a higher one when numbers from
+// there on are in use: the counter was lost or comes from a backup. Locking reads the row anew, so
+// what another station counted in the meantime is not given out twice.
+qint32 takeNext(TableUse &rows, qint32 inUse)
 {
     const RowLock lock(rows.handle());
     if (!lock)
         return lock.heldElsewhere() ? Locked : Failed;
     const Handle counter = rows.field(QStringLiteral("lastid"));
-    const qint32 taken = f4long(counter);
-    // Lower ones were never given out: two records could get the same.
-    if (taken < FirstID)
+    qint32 taken = f4long(counter);
+    // Lower ones were never given out. Without a row to go by two records could get the same.
+    if (taken < FirstID && inUse < FirstID)
         return Garbled;
+    taken = std::max(taken, inUse + 1);
     qint32 next = taken;
     clsSystem::IncL(next);
     f4assignLong(counter, next);
@@ -39,28 +69,46 @@ qint32 takeNext(TableUse &rows)
 
 // Starts a counter. The append lock is taken before looking again, so that of two stations that
 // both found no counter only one starts it.
-qint32 startCounter(TableUse &rows, const QString &name)
+qint32 startCounter(TableUse &rows, const QString &name, qint32 inUse)
 {
     {
         const RowLock appending(rows.handle(), 0);
         if (!appending)
             return appending.heldElsewhere() ? Locked : Failed;
         if (!rows.seekText(name, CounterName)) {
+            const qint32 taken = std::max(FirstID, inUse + 1);
+            qint32 next = taken;
+            clsSystem::IncL(next);
             d4appendStartVB(rows.handle(), 0);
             d4blank(rows.handle());
-            f4assignLong(rows.field(QStringLiteral("lastid")), FirstID + 1);
+            f4assignLong(rows.field(QStringLiteral("lastid")), next);
             AssignText(rows.field(CounterName), name);
-            return storeNewRow(rows.handle()) ? FirstID : Failed;
+            return storeNewRow(rows.handle()) ? taken : Failed;
         }
     }
-    return takeNext(rows);
+    return takeNext(rows, inUse);
 }
 
 } // namespace
 
+qint32 clsDB::highestIdInUse(const QString &tableName) const
+{
+    for (const schema::TableInfo &table : schema::tables()) {
+        const bool counted =
+            table.table != schema::Table::LastID && table.table != schema::Table::Param;
+        if (counted && table.dataFile().compare(tableName, Qt::CaseInsensitive) == 0) {
+            const QString path = clsSystem::LocalPath(TablePath(table.table));
+            return highestInUse(m_hSession, path.toStdString());
+        }
+    }
+    return 0;
+}
+
 qint32 clsDB::GetNextID(const QString &tableName)
 {
     return guarded("clsDB_GetNextID", -1, [&] {
+        if (!MayWrite())
+            return -1;
         qint32 taken = -1;
         {
             TableUse rows(*this, LastIDTable());
@@ -71,7 +119,9 @@ qint32 clsDB::GetNextID(const QString &tableName)
             // Before any tag is selected: the first tag of the index is the one by name.
             const bool found = rows.seekText(tableName, CounterName);
             d4tagSelect(rows.handle(), d4tag(rows.handle(), "TBLNAME"));
-            taken = found ? takeNext(rows) : startCounter(rows, tableName);
+            // What is added behind our back from here on has its number from the counter.
+            const qint32 inUse = highestIdInUse(tableName);
+            taken = found ? takeNext(rows, inUse) : startCounter(rows, tableName, inUse);
             if (taken == Garbled)
                 m_failures.note({ErrorKind::Damaged, LastIDTable().toStdString(), "counter"});
         }
@@ -97,6 +147,8 @@ QString clsDB::GetParamValue(const QString &name)
 bool clsDB::SetParamValue(const QString &name, const QString &value)
 {
     return guarded("clsDB_SetParamValue", false, [&] {
+        if (!MayWrite())
+            return false;
         {
             TableUse rows(*this, ParamTable());
             if (!rows)

@@ -6,7 +6,10 @@
 #include "common/base/Host.h"
 #include "common/base/Preferences.h"
 #include "common/base/Prompts.h"
+#include "db/FieldText.h"
+#include "db/maintenance/IndexRepair.h"
 #include "db/Screens.h"
+#include "db/TableUse.h"
 
 using namespace norvane::engine;
 
@@ -38,6 +41,7 @@ bool clsDB::startSession(const QString &dir)
         code4lockEnforce(m_hSession, 1);
         code4lockDelay(m_hSession, 100);
         code4durability(m_hSession, GetPrefStr(DurabilityPref).toStdString());
+        expectOurTags(m_hSession);
         code4errorHandler(m_hSession, [this](const Error &error) { m_failures.note(error); });
         code4waitHandler(m_hSession, [](std::chrono::milliseconds waited) {
             if (waited > QuietWait && host().repaint)
@@ -55,6 +59,9 @@ bool clsDB::startSession(const QString &dir)
 
 void clsDB::endSession()
 {
+    m_watch.stop();
+    m_readOnlyReason.clear();
+    m_readOnlyNotice.clear();
     if (m_hSession > 0)
         d4initUndo(m_hSession);
     m_hSession = 0;
@@ -71,7 +78,7 @@ bool clsDB::OpenDB(const QString &dir)
     return guarded("clsDB_OpenDB", false, [&] {
         if (!DirContainsValidData(dir) || !CloseDB() || !startSession(dir))
             return false;
-        if (!PromptLogin(m_sDBPath)) {
+        if (!startWatch(false) || !PromptLogin(m_sDBPath)) {
             endSession();
             return false;
         }
@@ -80,6 +87,7 @@ bool clsDB::OpenDB(const QString &dir)
         if (screens().databaseOpened)
             screens().databaseOpened();
         CreateAttachDir();
+        lookAtTables();
         return true;
     });
 }
@@ -134,12 +142,13 @@ bool clsDB::OpenUnattended(const QString &dir, const QString &login, const QStri
         endSession();
         if (!DirContainsValidData(dir) || !startSession(dir))
             return false;
-        if (!acceptLogin(login, password)) {
+        if (!startWatch(true) || !acceptLogin(login, password)) {
             endSession();
             return false;
         }
         m_bIsOpen = true;
         CreateAttachDir();
+        lookAtTables();
         return true;
     });
 }
@@ -155,4 +164,44 @@ bool clsDB::OpenForReading(const QString &dir)
         m_bIsOpen = startSession(dir);
         return m_bIsOpen;
     });
+}
+
+bool clsDB::OpenForMaintenance(const QString &dir)
+{
+    return guarded("clsDB_OpenDB", false, [&] {
+        endSession();
+        if (!startSession(dir) || !startWatch(true))
+            return false;
+        tellReadOnly();
+        return !IsReadOnly();
+    });
+}
+
+bool clsDB::UsersReadable()
+{
+    const std::string path = clsSystem::LocalPath(UserTable()).toStdString();
+    Handle users = d4open(m_hSession, path);
+    if (users < 1) { // an index must not keep out those who can build it anew
+        std::vector<RepairLine> report;
+        maintenance::repairWithIndex(
+            m_hSession, DataFilePaths().at(static_cast<int>(schema::Table::User)), report);
+        users = d4open(m_hSession, path);
+    }
+    code4errorCode(m_hSession, 0);
+    const Handle active = users > 0 ? d4field(users, "useractive") : 0;
+    bool found = false;
+    if (active > 0 && d4field(users, "login") > 0 && d4field(users, "password") > 0) {
+        d4tagSelect(users, 0);
+        for (Code code = d4top(users); code == r4success && !found; code = d4skip(users, 1))
+            found = !d4deleted(users) && TorF2Bool(clsSystem::Trim(FieldText(active)));
+    }
+    d4close(users);
+    m_failures.clear();
+    return found;
+}
+
+bool clsDB::LogInForMaintenance(const QString &login, const QString &password)
+{
+    m_bIsOpen = acceptLogin(login, password);
+    return m_bIsOpen;
 }

@@ -13,7 +13,6 @@ namespace
 
 constexpr int PermissionCount = 30;
 constexpr int DefaultPermissions = 4; // customers, products and services, issues, reports
-const QString DefaultLogin = QStringLiteral("sysop");
 const QString ActiveUserTag = QStringLiteral("ACTIVEUSER");
 const QString LoginField = QStringLiteral("login");
 const QString LastLogin = QStringLiteral("LastLogin");
@@ -55,7 +54,7 @@ bool clsDB::PromptLogin(const QString &dir)
             return false;
         LoginRequest request{dir, GetPrefStr(LastLogin).toLower(), {}};
         if (request.login.isEmpty() && activeUsers < 2)
-            request.login = DefaultLogin;
+            request.login = DefaultLogin();
         // The first password, or one that was reset, is the login name: OK is then enough.
         if (GetUserPassword(request.login).toLower() == request.login)
             request.password = request.login;
@@ -100,6 +99,16 @@ QString clsDB::GetUserPassword(const QString &login)
         if (id < 1 || !ReadRecord(user, true))
             return QString();
         return clsSystem::HexStrToString(user.text(QStringLiteral("password")));
+    });
+}
+
+bool clsDB::SetPassword(qint32 id, const QString &password)
+{
+    return guarded("clsDB_SetPassword", false, [&] {
+        RecColl user(UserTable(), schema::table(schema::Table::User).dataFile(), id,
+                     QStringLiteral("_setpwd"));
+        user.add(QStringLiteral("password"), password);
+        return id > 0 && SaveRecord(user);
     });
 }
 

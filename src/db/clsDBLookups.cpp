@@ -5,6 +5,7 @@
 #include "common/base/Failure.h"
 #include "common/base/Host.h"
 #include "common/base/Hourglass.h"
+#include "common/base/Prompts.h"
 #include "db/FieldText.h"
 #include "db/TableUse.h"
 
@@ -43,6 +44,20 @@ qint32 findEntry(TableUse &rows, const QString &text, qint32 type)
     return NoEntry;
 }
 
+qint32 appendEntry(clsDB &db, TableUse &rows, const clsDB::ListTable &list, const QString &text)
+{
+    const qint32 rowid = db.GetNextID(list.file);
+    if (rowid < 1)
+        return 0;
+    d4appendStartVB(rows.handle(), 0);
+    d4blank(rows.handle());
+    f4assignLong(rows.field(list.keyField), rowid);
+    if (list.type > 0)
+        f4assignLong(rows.field(TypeField), list.type);
+    AssignText(rows.field(list.textField), text);
+    return storeNewRow(rows.handle()) ? rowid : 0;
+}
+
 QString userText(const TableUse &users)
 {
     const QString login = users.text(QStringLiteral("login"));
@@ -59,23 +74,26 @@ void clsDB::LoadLV(ListSink &list, const QString &path, const QString &keyField,
     guarded("clsDB_LoadLV", [&] {
         const Hourglass busy;
         const qint32 selected = list.currentId();
-        const Loading frozen(list);
-        if (!m_bIsOpen)
-            return;
-        TableUse rows(*this, path);
-        if (!rows)
-            return;
-        const Handle key = rows.field(keyField);
-        const Handle text = rows.field(textField);
-        const Handle kind = type > 0 ? rows.field(TypeField) : 0;
-        rows.select(textField);
-        if (clear)
-            list.clear();
-        for (bool more = rows.top(); more; more = rows.next()) {
-            if (kind < 1 || f4long(kind) == type)
-                list.addItem(clsSystem::Trim(FieldText(text)), f4long(key));
-            host().pumpEvents();
+        {
+            const Loading frozen(list);
+            if (!m_bIsOpen)
+                return;
+            TableUse rows(*this, path);
+            if (!rows)
+                return;
+            const Handle key = rows.field(keyField);
+            const Handle text = rows.field(textField);
+            const Handle kind = type > 0 ? rows.field(TypeField) : 0;
+            rows.select(textField);
+            if (clear)
+                list.clear();
+            for (bool more = rows.top(); more; more = rows.next()) {
+                if (kind < 1 || f4long(kind) == type)
+                    list.addItem(clsSystem::Trim(FieldText(text)), f4long(key));
+                host().repaint(); // without input, which could start the same again
+            }
         }
+        // A list that is being loaded may not have its rows yet.
         if (selected > 0)
             list.selectId(selected);
     });
@@ -109,12 +127,12 @@ bool clsDB::LoadCbo(ListSink &combo, const QString &path, const QString &keyFiel
     });
 }
 
-void clsDB::LoadCbo_Users(ListSink &combo, bool clear, bool activeOnly)
+bool clsDB::LoadCbo_Users(ListSink &combo, bool clear, bool activeOnly)
 {
-    guarded("clsDB_LoadCbo_Users", [&] {
+    return guarded("clsDB_LoadCbo_Users", false, [&] {
         TableUse users(*this, UserTable());
         if (!users)
-            return;
+            return false;
         users.select(QStringLiteral("login"));
         if (clear)
             combo.clear();
@@ -122,6 +140,7 @@ void clsDB::LoadCbo_Users(ListSink &combo, bool clear, bool activeOnly)
             if (!activeOnly || TorF2Bool(users.text(QStringLiteral("useractive"))))
                 combo.addItem(userText(users), users.number(RowidField));
         }
+        return !m_failures.any();
     });
 }
 
@@ -170,12 +189,50 @@ qint32 clsDB::LookupOrAddCategory(const QString &text, qint32 type, Handle table
     return found < 0 ? AddCategory(text, type, table) : found;
 }
 
-bool clsDB::CanDeleteItem(qint32 rowid, const QString &path, const QString &field)
+qint32 clsDB::AddUpdateItem(const ListTable &list, qint32 id, const QString &text)
+{
+    return guarded("clsDB_AddUpdateItem", 0, [&] {
+        QString problem;
+        if (text.isEmpty() || !MayWrite())
+            return 0;
+        {
+            TableUse rows(*this, list.path);
+            if (!rows)
+                return 0;
+            const LockAttempts tenAttempts(m_hSession);
+            if (id < 1)
+                return appendEntry(*this, rows, list, text);
+            rows.select(list.keyField);
+            bool found = rows.seek(id);
+            if (found) {
+                const RowLock lock(rows.handle());
+                // Another station may have deleted the row while this one waited for the lock.
+                found = lock.heldElsewhere() || !d4deleted(rows.handle());
+                if (found && lock) {
+                    AssignText(rows.field(list.textField), text);
+                    return storeChange(rows.handle()) ? id : 0;
+                }
+                if (lock.heldElsewhere())
+                    problem = u"RECORD LOCKED: Unable to update " % list.file % u'!';
+            }
+            if (!found)
+                problem = u"Unable to update this item in table " % list.file %
+                          u"! It may have been deleted by another user. Press Refresh to get the "
+                          u"latest list.";
+        }
+        // Boxes wait for the person, so they come when nothing is locked any more.
+        if (!problem.isEmpty())
+            prompts::critical(problem);
+        return 0;
+    });
+}
+
+bool clsDB::CanDeleteItem(qint32 rowid, const QString &path, const QString &field, Handle table)
 {
     return guarded("clsDB_CanDeleteItem", false, [&] {
         if (path.isEmpty())
             return true;
-        TableUse rows(*this, path);
+        TableUse rows(*this, path, table);
         if (!rows)
             return false;
         if (rows.select(field))

@@ -47,6 +47,8 @@ struct clsDB::Write {
 bool clsDB::SaveRecord(RecColl &record, bool NoMsg, Handle table)
 {
     return guarded("clsDB_SaveRecord", false, [&] {
+        if (!MayWrite())
+            return false;
         const TableUse use(*this, record.text(QStringLiteral("_tablepath")), table);
         if (!use)
             return false;

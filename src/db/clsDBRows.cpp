@@ -22,8 +22,9 @@ enum class Deletion { Done, NoRow, HeldElsewhere, Failed };
 // Deletes the row that the key leads to in the selected tag.
 Deletion deleteRow(TableUse &rows, qint32 key)
 {
-    if (!rows.seek(key))
-        return Deletion::NoRow;
+    const Code found = rows.seekCode(key);
+    if (found != r4success)
+        return found == r4failure || found == d4locked ? Deletion::Failed : Deletion::NoRow;
     const RowLock lock(rows.handle());
     if (!lock)
         return lock.heldElsewhere() ? Deletion::HeldElsewhere : Deletion::Failed;
@@ -102,6 +103,8 @@ bool clsDB::RecordExistsNoTag(int kind, const QString &value, const QString &pat
 bool clsDB::DeleteRecord(qint32 rowid, const QString &path, Handle table)
 {
     return guarded("clsDB_DeleteRecord", false, [&] {
+        if (!MayWrite())
+            return false;
         TableUse rows(*this, path, table);
         if (!rows)
             return false;
@@ -115,12 +118,14 @@ bool clsDB::DeleteRecord(qint32 rowid, const QString &path, Handle table)
     });
 }
 
-void clsDB::DeleteAllRecords(qint32 key, const QString &path, const QString &tag, Handle table)
+bool clsDB::DeleteAllRecords(qint32 key, const QString &path, const QString &tag, Handle table)
 {
-    guarded("clsDB_DeleteAllRecords", [&] {
+    return guarded("clsDB_DeleteAllRecords", false, [&] {
+        if (!MayWrite())
+            return false;
         TableUse rows(*this, path, table);
         if (!rows || !rows.select(tag))
-            return;
+            return false;
         const LockAttempts tenAttempts(m_hSession);
         // Deleted rows drop out of the tag, so the same key leads to the next one.
         for (;;) {
@@ -128,7 +133,7 @@ void clsDB::DeleteAllRecords(qint32 key, const QString &path, const QString &tag
             if (outcome == Deletion::HeldElsewhere)
                 tellLocked(path, key);
             else if (outcome != Deletion::Done)
-                return;
+                return outcome == Deletion::NoRow;
         }
     });
 }

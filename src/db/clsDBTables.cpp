@@ -6,6 +6,8 @@
 #include "db/FieldText.h"
 #include "db/TableUse.h"
 
+#include <algorithm>
+
 using namespace norvane::engine;
 
 std::string engineText(const QString &text)
@@ -13,26 +15,71 @@ std::string engineText(const QString &text)
     return toStored(text).toStdString();
 }
 
+namespace
+{
+
+// A file of ours that holds something else altogether is no less damaged.
+bool isDamage(const Error &error)
+{
+    return error.kind == ErrorKind::Damaged || error.kind == ErrorKind::Refused;
+}
+
+} // namespace
+
+bool clsDB::isTableOfOurs(const QString &path) const
+{
+    const auto &all = schema::tables();
+    return std::any_of(all.begin(), all.end(), [&](const schema::TableInfo &table) {
+        return path == TablePath(table.table);
+    });
+}
+
+// Finds damage at the opening, before somebody fills in a form that could not be saved. Other
+// troubles are told when the table is used.
+void clsDB::lookAtTables()
+{
+    for (const schema::TableInfo &table : schema::tables()) {
+        const Handle handle =
+            d4open(m_hSession, clsSystem::LocalPath(TablePath(table.table)).toStdString());
+        const Error &damage = handle > 0 ? d4damage(handle) : lastError(m_hSession);
+        if (isDamage(damage))
+            noteDamage(damage);
+        code4errorCode(m_hSession, 0);
+        d4close(handle);
+    }
+    m_failures.clear();
+    tellReadOnly();
+}
+
 clsDB::Handle clsDB::OpenTable(const QString &path)
 {
     if (m_openTables == 0)
         m_failures.clear();
+    WatchStations();
     const Handle table = d4open(m_hSession, clsSystem::LocalPath(path).toStdString());
     if (table > 0) {
         ++m_openTables;
+        if (const Error &damage = d4damage(table); damage && isTableOfOurs(path))
+            noteDamage(damage);
         return table;
     }
 
     // A table that is not there needs no other words than those below; for damage and the like the
     // engine's come first.
+    const Error failure = lastError(m_hSession);
     code4errorCode(m_hSession, 0);
+    if (isDamage(failure) && isTableOfOurs(path))
+        noteDamage(failure);
     if (m_told.contains(path)) {
         m_failures.clear();
         return 0;
     }
     if (m_tellingOnce > 0)
         m_told.append(path);
+    if (!m_readOnlyNotice.isEmpty())
+        m_failures.clear(); // names the damage too
     m_failures.show();
+    tellReadOnly();
     prompts::critical(u"Unable to open: " % path);
     return 0;
 }
@@ -43,8 +90,10 @@ void clsDB::CloseTable(Handle table)
         return;
     d4close(table);
     m_openTables = std::max(0, m_openTables - 1);
-    if (m_openTables == 0)
-        m_failures.show();
+    if (m_openTables > 0)
+        return;
+    m_failures.show();
+    tellReadOnly();
 }
 
 clsDB::TellOnce::TellOnce(clsDB &db) : m_db(db)
@@ -135,6 +184,12 @@ RowLock::RowLock(clsDB::Handle table, std::uint32_t record)
 RowLock::~RowLock()
 {
     d4unlock(m_table);
+}
+
+void expectOurTags(clsDB::Handle session)
+{
+    for (const schema::TableInfo &table : schema::tables())
+        d4expectTags(session, table.baseName.toStdString(), table.def.tags);
 }
 
 bool storeChange(clsDB::Handle table)

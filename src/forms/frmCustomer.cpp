@@ -2,9 +2,11 @@
 
 #include "common/base/Ansi.h"
 #include "common/base/clsSystem.h"
+#include "common/base/HelpTopics.h"
 #include "common/form/FieldBinding.h"
 #include "common/ui/Controls.h"
 #include "common/ui/frmRichEdit.h"
+#include "common/ui/Icons.h"
 #include "common/ui/Switchboard.h"
 #include "db/clsCustomLabels.h"
 #include "db/clsLookupCustomer.h"
@@ -14,8 +16,10 @@
 namespace
 {
 
-constexpr int kHelpTopic = 1300;
+constexpr int kContactPage = 0;
 constexpr int kNotesPage = 1;
+constexpr int kPSPage = 2;
+constexpr int kIssuesPage = 3;
 constexpr int kColumnCharacters = 96; // a label and a field of 80
 constexpr int kWindowCharacters = 148;
 
@@ -33,7 +37,7 @@ RecordSpec customerSpec()
             .recordType = QStringLiteral("_customer"),
             .captionPrefix = frmCustomer::tr("Customer: "),
             .newCaption = frmCustomer::tr("Customer Name"),
-            .helpTopic = kHelpTopic,
+            .helpTopic = help::Customer,
             .permission = &clsDB::Perm_Customers};
 }
 
@@ -50,19 +54,32 @@ frmCustomer::frmCustomer(QWidget *parent)
 {
     m_ui->setupUi(this);
     contacts::setUp(m_ui->grdContacts);
+    LV_AddColHeaders();
     takeControls(m_ui.get());
     setNewRecordHint(m_ui->lblNewCust);
     bindFields();
+    bindListEditors();
+    connectLists();
     tellLengths();
 
     connect(m_ui->cmdDTStamp_Notes, &QPushButton::clicked, this,
             [this] { insertStamp(m_ui->txtNote); });
-    connect(m_ui->cmdPrint, &QPushButton::clicked, this, &frmCustomer::FormPrint);
+    connect(m_ui->cmdPrint, &QPushButton::clicked, this, &frmCustomer::printPage);
+    connect(m_ui->cmdEmail, &QPushButton::clicked, this, &frmCustomer::FormEmail);
+    for (const auto &[button, box] : {std::pair(m_ui->cmdSendEmail, m_ui->txtEmailName),
+                                      std::pair(m_ui->cmdSendEmail2, m_ui->txtEmailName2)}) {
+        button->setIcon(icon(QStringLiteral("email")));
+        connect(button, &QToolButton::clicked, this,
+                [box = box] { clsSystem::SendEmail(box->text()); });
+    }
     connect(m_ui->cmdLabel, &QPushButton::clicked, this, &frmCustomer::showMailingLabel);
-    connect(m_ui->tabs, &QTabWidget::currentChanged, this, [this](int page) {
-        if (page == kNotesPage && m_ui->txtNote->isEnabled())
-            m_ui->txtNote->setFocus();
-    });
+    connect(m_ui->tabs, &QTabWidget::currentChanged, this, &frmCustomer::pageChanged);
+    for (QWidget *widget :
+         {static_cast<QWidget *>(m_ui->EM), static_cast<QWidget *>(m_ui->lblEdit)}) {
+        QSizePolicy policy = widget->sizePolicy();
+        policy.setRetainSizeWhenHidden(true); // the pages stay where they are
+        widget->setSizePolicy(policy);
+    }
 }
 
 frmCustomer::~frmCustomer() = default;
@@ -96,6 +113,15 @@ void frmCustomer::bindFields()
         QStringLiteral("contacts"), m_ui->grdContacts,
         [this](const QVariant &value) { contacts::show(m_ui->grdContacts, value.toString()); },
         [this] { return QVariant(contacts::text(m_ui->grdContacts)); });
+}
+
+void frmCustomer::bindListEditors()
+{
+    bindListEditor(m_ui->cboCatCategory, m_ui->cboCategory, kCustomerCategories);
+    bindListEditor(m_ui->cmdCatStates, m_ui->cboStates, kStates);
+    bindListEditor(m_ui->cboCatCountry, m_ui->cboCountry, kCountries);
+    bindListEditor(m_ui->cmdCust1Cat, m_ui->txtCust1, kCustom1Entries);
+    bindListEditor(m_ui->cmdCust2Cat, m_ui->txtCust2, kCustom2Entries);
 }
 
 // Boxes for short entries are no wider than what goes into them, and no column is wider than its
@@ -172,10 +198,53 @@ bool frmCustomer::CheckForDuplicateCustomerNumber()
     return prompts::ask(question, prompts::Answer::Cancel) == prompts::Answer::Yes;
 }
 
+void frmCustomer::afterLoad()
+{
+    LV_LoadPS(-1);
+    LV_LoadIssues(-1);
+}
+
+// The lists open windows of their own, so they are for a stored customer that is not being edited.
 void frmCustomer::afterSetUI()
 {
     contacts::setLocked(m_ui->grdContacts, !inEditMode());
     SetCustomerNumber();
+    const int page = m_ui->tabs->currentIndex();
+    if (inEditMode() && (page == kPSPage || page == kIssuesPage))
+        m_ui->tabs->setCurrentIndex(kContactPage);
+    for (const int list : {kPSPage, kIssuesPage})
+        m_ui->tabs->setTabEnabled(list, !inEditMode());
+    showEditState();
+}
+
+void frmCustomer::pageChanged(int page)
+{
+    showEditState();
+    if (page == kNotesPage && m_ui->txtNote->isEnabled())
+        m_ui->txtNote->setFocus();
+}
+
+void frmCustomer::showEditState()
+{
+    const int page = m_ui->tabs->currentIndex();
+    const bool onList = page == kPSPage || page == kIssuesPage;
+    m_ui->EM->setVisible(!onList);
+    m_ui->lblEdit->setVisible(!onList && rowid() >= 1);
+    m_ui->cmdEmail->setEnabled(!onList);
+}
+
+void frmCustomer::printPage()
+{
+    switch (m_ui->tabs->currentIndex()) {
+    case kPSPage:
+        printSubscriptions();
+        break;
+    case kIssuesPage:
+        printIssues();
+        break;
+    default:
+        FormPrint();
+    }
 }
 
 void frmCustomer::SetCustomerNumber()

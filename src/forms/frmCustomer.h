@@ -1,4 +1,5 @@
-// One customer: contact details, notes and further contacts.
+// One customer: contact details, notes, further contacts, and the lists of what he holds and has
+// raised.
 #pragma once
 
 #include "common/form/RecordForm.h"
@@ -24,6 +25,10 @@ public:
     // Company, else "Last, First", else "New ".
     QString MakeCustomerName() const;
 
+    // Fill a list anew and select the row with that rowid, when it is above 0 (NotifyCustomer).
+    Q_INVOKABLE void LV_LoadPS(int selectId);
+    Q_INVOKABLE void LV_LoadIssues(int selectId);
+
     QSize sizeHint() const override;
 
 protected:
@@ -31,15 +36,32 @@ protected:
     QString emailAddress() const override;
     QString firstProblem() override;
     bool extraCheck() override;
+    void afterLoad() override;
     void afterSetUI() override;
     QString deleteRefusal() override;
 
 private:
     void bindFields();
+    void bindListEditors();
     void tellLengths();
     bool CheckForDuplicateCustomerNumber(); // false: do not save
     void SetCustomerNumber();
     void showMailingLabel();
+    void pageChanged(int page);
+    void showEditState(); // the banner and what belongs to it, on the pages of the record itself
+    void printPage();
+
+    // ---- the lists (frmCustomerLists.cpp)
+    void LV_AddColHeaders();
+    void connectLists();
+    void newSubscription();
+    void openSubscription();
+    void newIssue();
+    void openIssue();
+    void printSubscriptions();
+    void printIssues();
+
+    // ---- texts (frmCustomerText.cpp)
     QString contactLines() const;
     QString fullName() const;  // salutation, first and last name
     QString placeLine() const; // city, state and postal code

@@ -1,6 +1,6 @@
 // The customer as text: the preview's content and the mailing label.
 #include "common/base/clsSystem.h"
-#include "common/form/SetLabels.h"
+#include "common/form/LabelledLine.h"
 #include "forms/ContactsGrid.h"
 #include "forms/frmCustomer.h"
 #include "ui_frmCustomer.h"
@@ -8,21 +8,11 @@
 namespace
 {
 
-constexpr int kLabelWidth = 20;
+const LabelledLine line(20);
 
 QString AddSpace(const QString &text)
 {
     return clsSystem::Trim(text).isEmpty() ? text : text + u' ';
-}
-
-QString line(const QString &label, const QString &value, int breaks = 1)
-{
-    return clsSystem::PadSpaces(label, kLabelWidth) + value + QString(breaks, u'\n');
-}
-
-QString line(const QLabel *label, const QString &value, int breaks = 1)
-{
-    return line(labelCaption(label), value, breaks);
 }
 
 QString lineUnlessEmpty(const QString &label, const QString &value)
@@ -85,10 +75,7 @@ QString frmCustomer::FormContent()
     text += line(m_ui->lblCat, m_ui->cboCategory->currentText(), 2);
     text += tr("Notes:") + u'\n' + m_ui->txtNote->toPlainText() + u"\n\n";
     text += tr("Additional Contacts:") + u'\n' + contactLines() + u"\n\n";
-    text += line(tr("Last Modified By:"), m_ui->LE->ModifiedBy());
-    text += line(tr("Last Modified On:"), m_ui->LE->ModifiedOn());
-    text += line(tr("Last Modified At:"), m_ui->LE->ModifiedAt());
-    return text;
+    return text + line.lastModified(m_ui->LE);
 }
 
 // A contact without a name is left out.

@@ -5,15 +5,6 @@
 namespace
 {
 
-// Upper case inside the 8-bit set; a character whose upper case has no place there stands for
-// itself.
-char upperByte(char byte)
-{
-    const QString upper = fromAnsi(QByteArrayView(&byte, 1)).toUpper();
-    const QByteArray stored = toAnsi(upper);
-    return stored.size() == 1 && fromAnsi(stored) == upper ? stored.front() : byte;
-}
-
 std::string_view trimmed(std::string_view text)
 {
     const auto first = text.find_first_not_of(' ');
@@ -26,14 +17,11 @@ std::string_view trimmed(std::string_view text)
 
 CustomerMatcher::CustomerMatcher(const QString &wanted)
 {
-    for (int code = 0; code < 256; ++code)
-        m_upper[static_cast<std::size_t>(code)] = upperByte(static_cast<char>(code));
     const QByteArray stored = toAnsi(wanted);
     // "?" stands for what cannot be stored; it must not find question marks.
     m_storable = fromAnsi(stored) == wanted;
-    m_wanted.reserve(static_cast<std::size_t>(stored.size()));
-    for (const char byte : stored)
-        m_wanted += m_upper[static_cast<unsigned char>(byte)];
+    m_wanted.resize(static_cast<std::size_t>(stored.size()));
+    foldAnsi({stored.constData(), m_wanted.size()}, m_wanted.data());
 }
 
 bool CustomerMatcher::fieldContains(std::string_view stored) const
@@ -41,8 +29,7 @@ bool CustomerMatcher::fieldContains(std::string_view stored) const
     const std::string_view text = trimmed(stored);
     if (!m_storable || text.empty() || text.size() < m_wanted.size())
         return false;
-    m_folded.clear();
-    for (const char byte : text)
-        m_folded += m_upper[static_cast<unsigned char>(byte)];
+    m_folded.resize(text.size());
+    foldAnsi(text, m_folded.data());
     return m_folded.find(m_wanted) != std::string::npos;
 }

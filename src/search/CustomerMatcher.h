@@ -4,7 +4,6 @@
 
 #include <QString>
 
-#include <array>
 #include <string>
 #include <string_view>
 
@@ -17,7 +16,6 @@ public:
     bool fieldContains(std::string_view stored) const;
 
 private:
-    std::array<char, 256> m_upper{};
     std::string m_wanted; // upper case
     bool m_storable = true;
     mutable std::string m_folded; // of the field at hand, kept for its memory

@@ -2,6 +2,8 @@
 #include "search/frmCustomerList.h"
 
 #include "common/base/Failure.h"
+#include "common/base/HelpTopics.h"
+#include "common/ui/Printing.h"
 #include "common/ui/Switchboard.h"
 #include "db/clsCustomLabels.h"
 #include "db/clsDB.h"
@@ -17,6 +19,7 @@ frmCustomerList::frmCustomerList(QWidget *parent)
     : FormWindow(parent), ui(std::make_unique<Ui::frmCustomerList>())
 {
     ui->setupUi(this);
+    setHelpTopic(help::CustomerList);
     setUpList();
     addShortcuts();
     connect(ui->lvCustomers, &ListView::itemActivated, this, &frmCustomerList::openCustomer);
@@ -24,6 +27,7 @@ frmCustomerList::frmCustomerList(QWidget *parent)
     connect(ui->cmdProperties, &QPushButton::clicked, this,
             [this] { openCustomer(LvGetSelectedItemKey(ui->lvCustomers)); });
     connect(ui->cmdRefresh, &QPushButton::clicked, this, &frmCustomerList::reload);
+    connect(ui->cmdPrint, &QPushButton::clicked, this, &frmCustomerList::printList);
     connect(ui->CancelButton, &QPushButton::clicked, this, &QWidget::close);
 }
 
@@ -49,6 +53,8 @@ void frmCustomerList::addShortcuts()
 {
     const auto *refresh = new QShortcut(QKeySequence::Refresh, this);
     connect(refresh, &QShortcut::activated, this, &frmCustomerList::reload);
+    const auto *print = new QShortcut(QKeySequence::Print, this);
+    connect(print, &QShortcut::activated, this, &frmCustomerList::printList);
     const auto *close = new QShortcut(Qt::Key_Escape, this);
     connect(close, &QShortcut::activated, this, &QWidget::close);
     for (QShortcut *shortcut : findChildren<QShortcut *>())
@@ -67,6 +73,13 @@ void frmCustomerList::reload()
 {
     LoadData();
     SetUI();
+}
+
+// A list that is still filling is not printed in part.
+void frmCustomerList::printList()
+{
+    if (!m_bLoading)
+        ListViewPrint_GetPrinter(*ui->lvCustomers, windowTitle());
 }
 
 // The columns as they are designed: the last one takes whatever width is left.

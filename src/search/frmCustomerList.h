@@ -41,6 +41,7 @@ private:
 
     void setUpList();
     void addShortcuts();
+    void printList();
     void openCustomer(const QString &key);
     void reload();
 

@@ -1,5 +1,6 @@
 #include "search/frmLookupCustomer.h"
 
+#include "common/base/HelpTopics.h"
 #include "common/base/Numbers.h"
 #include "common/base/Preferences.h"
 #include "common/base/Prompts.h"
@@ -14,6 +15,7 @@ frmLookupCustomer::frmLookupCustomer(QWidget *parent)
     : QDialog(parent), ui(std::make_unique<Ui::frmLookupCustomer>())
 {
     ui->setupUi(this);
+    setProperty("helpTopic", help::LookupCustomer);
     ui->buttonBox->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("OKButton"));
     ui->buttonBox->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("CancelButton"));
     loadTypes();
@@ -30,7 +32,8 @@ void frmLookupCustomer::loadTypes()
 {
     const clsDB::TellOnce tellOnce(gDB);
     const auto label = [](const char *field) {
-        return CustomLabels.GetCustomerLabelName(QString::fromLatin1(field), false);
+        return clsCustomLabels::ShortName(
+            CustomLabels.GetCustomerLabelName(QString::fromLatin1(field), false));
     };
     const QString startsWith = tr(" starts with or is:");
     cboAddItem(ui->cboType, tr("Primary Contact's ") + label("lastname") + startsWith,

@@ -1,6 +1,7 @@
 // The guided tour: the real program goes through a working day by itself, on a database of its
 // own, saves a picture of each step and looks at what was stored. Tour.cpp runs and watches it,
-// TourSteps.cpp is the day.
+// TourSteps.cpp is the day, TourRecords.cpp its work on the records of a customer, and
+// TourOffice.cpp what an administrator does in it.
 #pragma once
 
 #include "shell/Startup.h"
@@ -15,6 +16,8 @@
 class FormWindow;
 class frmCustomer;
 class frmCustomerList;
+class frmIssue;
+class frmPS;
 
 class Tour
 {
@@ -39,7 +42,16 @@ private:
     void openCustomer();
     void editCustomer();
     void showPreviews();
+    void addSubscription(); // and the other records: TourRecords.cpp
+    void attachContract(frmPS *form);
+    void prepareTemplate(); // issues: TourIssues.cpp
+    void workOnIssue();
+    void noteAction(frmIssue *form);
+    void closeIssue(frmIssue *form);
     void seeSecondStation();
+    void extendList(); // these three: TourOffice.cpp
+    void addUser();
+    void readHelp();
     void arrangeWindows();
     void reopen();
     void showAbout();
@@ -62,7 +74,8 @@ private:
     // ---- the second workstation: norvanectl, a process of its own
     QString secondStation(const QStringList &arguments);
     void importRows(const QStringList &rows);
-    QString storedField(qint32 rowid, const QString &field);
+    QString storedField(qint32 rowid, const QString &field,
+                        const QString &table = QStringLiteral("customers"));
 
     QTemporaryDir m_temporary;
     QString m_pictures;

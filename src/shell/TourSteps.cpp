@@ -1,5 +1,5 @@
 // The working day of the tour.
-#include "shell/Tour.h"
+#include "shell/TourHands.h"
 
 #include "common/base/AppInfo.h"
 #include "common/base/Preferences.h"
@@ -13,12 +13,10 @@
 
 #include <QApplication>
 #include <QComboBox>
-#include <QDialogButtonBox>
 #include <QDir>
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -28,50 +26,13 @@
 namespace
 {
 
+using hands::pressEnter;
+using hands::pressOk;
+using hands::typeInto;
+
 const QString newPhone = QStringLiteral("(503) 555-0188");
 
-void typeInto(QLineEdit *box, const QString &text)
-{
-    box->setFocus();
-    box->selectAll();
-    for (const QChar letter : text) {
-        QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, letter);
-        QApplication::sendEvent(box, &press);
-    }
-}
-
-void pressEnter(QWidget *widget)
-{
-    QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
-    QApplication::sendEvent(widget, &press);
-}
-
-void pressOk(QWidget *dialog)
-{
-    dialog->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok)->click();
-}
-
 } // namespace
-
-template <class Control>
-Control *Tour::control(QWidget *window, const char *name)
-{
-    auto *found = window->findChild<Control *>(QString::fromLatin1(name));
-    need(found != nullptr, QLatin1String(name) + QLatin1String(" is not there"));
-    return found;
-}
-
-template <class Form>
-Form *Tour::newestForm()
-{
-    const QList<FormWindow *> &forms = openForms();
-    for (auto form = forms.crbegin(); form != forms.crend(); ++form) {
-        if (auto *found = qobject_cast<Form *>(*form))
-            return found;
-    }
-    throw TourProblem(QString::fromLatin1(Form::staticMetaObject.className()) +
-                      QLatin1String(" did not open"));
-}
 
 void Tour::allSteps()
 {
@@ -85,9 +46,17 @@ void Tour::allSteps()
          [this] { openCustomer(); });
     step(QStringLiteral("Edit the customer and save"), [this] { editCustomer(); });
     step(QStringLiteral("Preview the customer and its mailing label"), [this] { showPreviews(); });
+    step(QStringLiteral("Note what the customer holds, and attach the contract"),
+         [this] { addSubscription(); });
+    step(QStringLiteral("Prepare a template for issues"), [this] { prepareTemplate(); });
+    step(QStringLiteral("Log an issue from it, note an action, close it"),
+         [this] { workOnIssue(); });
     step(QStringLiteral("See what the second workstation changed"), [this] { seeSecondStation(); });
+    step(QStringLiteral("Add an entry to a lookup list"), [this] { extendList(); });
+    step(QStringLiteral("Give a colleague a login"), [this] { addUser(); });
     step(QStringLiteral("Arrange the windows"), [this] { arrangeWindows(); });
     step(QStringLiteral("Close the database and open it again"), [this] { reopen(); });
+    step(QStringLiteral("Help Center, tip of the day and manual"), [this] { readHelp(); });
     step(QStringLiteral("About the program"), [this] { showAbout(); });
     step(QStringLiteral("Leave"), [this] { leave(); });
 }
@@ -185,6 +154,8 @@ void Tour::importOnSecondStation()
 {
     const QString file = QDir(app::programFolder()).filePath(QStringLiteral("demo/customers.csv"));
     secondStation({QStringLiteral("import"), m_folder, QStringLiteral("customers"), file});
+    secondStation({QStringLiteral("import"), m_folder, QStringLiteral("products"),
+                   QDir(app::programFolder()).filePath(QStringLiteral("demo/products.csv"))});
     need(gDB.GetRecCount(gDB.CustomerTable(), QStringLiteral("rowid")) > 100,
          QStringLiteral("the imported customers are not to be seen"));
 }
@@ -340,10 +311,9 @@ void Tour::importRows(const QStringList &rows)
 }
 
 // As another process reads it from the same files.
-QString Tour::storedField(qint32 rowid, const QString &field)
+QString Tour::storedField(qint32 rowid, const QString &field, const QString &table)
 {
-    const QString rows =
-        secondStation({QStringLiteral("dump"), m_folder, QStringLiteral("customers")});
+    const QString rows = secondStation({QStringLiteral("dump"), m_folder, table});
     for (const QString &row : rows.split(u'\n')) {
         const QJsonObject record = QJsonDocument::fromJson(row.toUtf8()).object();
         if (record.value(QLatin1String("rowid")).toInt() == rowid)

@@ -3,7 +3,10 @@
 #include <QApplication>
 #include <QDialog>
 #include <QLabel>
+#include <QPlainTextEdit>
 #include <QTimer>
+
+#include <utility>
 
 namespace
 {
@@ -15,6 +18,8 @@ QString wordsOn(const QWidget *window)
     QStringList words{window->windowTitle()};
     for (const QLabel *label : window->findChildren<QLabel *>())
         words += label->text();
+    for (const QPlainTextEdit *text : window->findChildren<QPlainTextEdit *>())
+        words += text->toPlainText();
     words.removeAll(QString());
     return words.join(QLatin1String(" / "));
 }
@@ -53,7 +58,7 @@ void TourVisitor::look()
 // Nothing may be thrown through the event loop.
 void TourVisitor::meet(QWidget *window)
 {
-    m_met = window;
+    QWidget *const behind = std::exchange(m_met, window); // one may open over another
     const QString name = QString::fromLatin1(window->metaObject()->className());
     if (m_problem.isEmpty() && (m_turns.empty() || m_turns.front().className != name))
         m_problem = name + QLatin1String(" came up unexpected: ") + wordsOn(window);
@@ -62,7 +67,7 @@ void TourVisitor::meet(QWidget *window)
         m_turns.pop_front();
         try {
             action(window);
-            m_met = nullptr;
+            m_met = behind;
             return;
         } catch (const TourProblem &problem) {
             m_problem = QString::fromUtf8(problem.what());

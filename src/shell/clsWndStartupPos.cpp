@@ -11,10 +11,10 @@ namespace
 // Values of "windowstate".
 enum WindowState : qint32 { Normal = 0, Maximised = 2 };
 
-bool onScreen(const QRect &place, const QSize &screen)
+bool onScreen(const QPoint &corner, const QSize &size, const QSize &screen)
 {
-    return place.top() >= 0 && place.top() <= screen.height() && place.left() >= 0 &&
-           place.left() <= screen.width() && place.width() >= 1 && place.height() >= 1;
+    return corner.y() >= 0 && corner.y() <= screen.height() && corner.x() >= 0 &&
+           corner.x() <= screen.width() && size.width() >= 1 && size.height() >= 1;
 }
 
 } // namespace
@@ -32,17 +32,17 @@ void clsWndStartupPos::SavePosition(const QWidget *form)
 
 void clsWndStartupPos::RestorePosition(QWidget *form)
 {
-    const QRect place(GetValueLong(QStringLiteral("left")), GetValueLong(QStringLiteral("top")),
-                      GetValueLong(QStringLiteral("width")),
-                      GetValueLong(QStringLiteral("height")));
+    const QPoint corner(GetValueLong(QStringLiteral("left")), GetValueLong(QStringLiteral("top")));
+    const QSize size(GetValueLong(QStringLiteral("width")), GetValueLong(QStringLiteral("height")));
+    const QSize screen = form->screen()->virtualSize();
     if (GetValueLong(QStringLiteral("windowstate")) == Maximised ||
-        !onScreen(place, form->screen()->virtualSize())) {
+        !onScreen(corner, size, screen)) {
         form->setWindowState(Qt::WindowMaximized);
         return;
     }
     form->setWindowState(Qt::WindowNoState);
-    form->move(place.topLeft());
-    form->resize(place.size());
+    form->move(corner);
+    form->resize(size.boundedTo(screen));
 }
 
 qint32 clsWndStartupPos::GetValueLong(const QString &name)

@@ -1,6 +1,7 @@
 #include "shell/frmLogin.h"
 
 #include "common/base/clsSystem.h"
+#include "common/base/HelpTopics.h"
 #include "common/base/Prompts.h"
 #include "common/ui/Controls.h"
 #include "db/clsDB.h"
@@ -11,6 +12,7 @@
 frmLogin::frmLogin(QWidget *parent) : QDialog(parent), ui(std::make_unique<Ui::frmLogin>())
 {
     ui->setupUi(this);
+    setProperty("helpTopic", help::Login);
     ui->buttonBox->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("OKButton"));
     ui->buttonBox->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("CancelButton"));
     QPalette readOnly = ui->txtDir->palette();

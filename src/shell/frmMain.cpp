@@ -14,6 +14,14 @@
 #include "ui_frmMain.h"
 
 #include <QCloseEvent>
+#include <QMenu>
+
+namespace
+{
+
+constexpr std::chrono::seconds WatchPause{1};
+
+} // namespace
 
 frmMain::frmMain(QWidget *parent) : QMainWindow(parent), ui(std::make_unique<Ui::frmMain>())
 {
@@ -21,14 +29,13 @@ frmMain::frmMain(QWidget *parent) : QMainWindow(parent), ui(std::make_unique<Ui:
     installSwitchboard(this);
     answerDatabaseCore();
     SetWindowCaption();
+    InitMenus();
     InitToolBar();
     buildStatusBar();
     setAreaColour();
     ui->imgHint->setPixmap(applicationIcon().pixmap(QSize(64, 64)));
-    connectFileMenu();
-    connectViewMenu();
-    connectWindowMenu();
-    connectHelpMenu();
+    connect(&m_watch, &QTimer::timeout, this, [] { gDB.WatchStations(); });
+    m_watch.start(WatchPause);
     clsWndStartupPos::RestorePosition(this);
     SetUI();
 }
@@ -48,18 +55,9 @@ void frmMain::answerDatabaseCore()
         return login.outcome();
     };
     screens().askUnderEdit = &frmUnderEditMsg::ask;
+    screens().databaseOpened = [this] { SetCustomMenuLabels(); };
     screens().unloadAll = [] { return UnloadAll(QStringLiteral("MAINFORM")); };
-}
-
-void frmMain::InitToolBar()
-{
-    ui->NEWCUST->setIcon(icon(QStringLiteral("new-customer")));
-    ui->LOOKUPCUST->setIcon(icon(QStringLiteral("lookup-customer")));
-    ui->mnuViewNewCustomer->setIcon(ui->NEWCUST->icon());
-    ui->mnuViewLookupCustomer->setIcon(ui->LOOKUPCUST->icon());
-    // The toolbar follows the database; a person may not take it away.
-    ui->TB->toggleViewAction()->setVisible(false);
-    setContextMenuPolicy(Qt::NoContextMenu);
+    screens().databaseReadOnly = [this] { SetStatusBar(); };
 }
 
 void frmMain::buildStatusBar()
@@ -94,15 +92,18 @@ void frmMain::SetUI()
 void frmMain::SetMenus()
 {
     const bool open = gDB.IsOpen();
-    ui->mnuFileNew->setEnabled(!open);
-    ui->mnuFileOpen->setEnabled(!open);
-    ui->mnuFileClose->setEnabled(open);
-    ui->mnuDisplayDataFolder->setEnabled(open);
-    ui->mnuView->menuAction()->setVisible(open);
-    ui->mnuWindow->menuAction()->setVisible(open);
+    for (const char *name : {"mnuFileNew", "mnuFileOpen"})
+        command(QLatin1String(name))->setEnabled(!open);
+    for (const char *name : {"mnuFileClose", "mnuFileChangePWD", "mnuDisplayDataFolder"})
+        command(QLatin1String(name))->setEnabled(open);
+    for (const char *name :
+         {"mnuFileChangePWDBar", "mnuFileChangePWD", "mnuViewDatabaseAdminUserMgmt", "ADUSERMAN"})
+        command(QLatin1String(name))->setVisible(open);
+    for (const char *name : {"mnuView", "mnuWindow"})
+        menuNamed(QLatin1String(name))->menuAction()->setVisible(open);
     // Their shortcuts would work in hidden menus too.
-    for (QAction *command : ui->mnuView->actions())
-        command->setEnabled(open);
+    for (QAction *entry : menuNamed(QStringLiteral("mnuView"))->actions())
+        entry->setEnabled(open);
     ui->TB->setVisible(open);
     ui->stkCentre->setCurrentWidget(open ? static_cast<QWidget *>(ui->mdiArea) : ui->pagClosed);
 }
@@ -111,7 +112,8 @@ void frmMain::SetStatusBar()
 {
     const QString computer = gSys.GetLocalComputerName().toUpper();
     if (gDB.IsOpen()) {
-        m_location->setText(tr("Database Location: ") + gDB.DBPath());
+        const QString readOnly = gDB.IsReadOnly() ? tr(" (read-only)") : QString();
+        m_location->setText(tr("Database Location: ") + gDB.DBPath() + readOnly);
         m_user->setText(tr("User: ") + computer + u'\\' + gDB.LoginName() + u"  ");
     } else {
         m_location->setText(tr("Choose File menu to open or create database."));

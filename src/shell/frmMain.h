@@ -1,17 +1,24 @@
 // The main window: menus, toolbar, status bar, the child windows, and the switchboard through
 // which every other screen is opened.
 //
-// frmMain.cpp: its life and states. frmMainFile.cpp: the File commands. frmMainCommands.cpp:
-// customers and Help. frmMainWindows.cpp: child windows and the Window menu.
+// frmMain.cpp: its life and states. frmMainMenus.cpp: which commands there are and where they
+// stand. frmMainFile.cpp: the File commands. frmMainCommands.cpp: customers.
+// frmMainRecords.cpp: the records that belong to customers. frmMainHelp.cpp: Help.
+// frmMainAdmin.cpp: users, passwords and statistics. frmMainLists.cpp: lookup lists.
+// frmMainMail.cpp: mail. frmMainWindows.cpp: child windows and the Window menu.
 #pragma once
 
 #include "common/ui/Switchboard.h"
 
 #include <QMainWindow>
+#include <QTimer>
 
 #include <memory>
+#include <vector>
 
+class QLabel;
 class QMdiSubWindow;
+class QMenu;
 class StatusPanel;
 namespace Ui
 {
@@ -35,42 +42,110 @@ public:
     QString BackupMsg(const QString &dir = {}) const;
 
     void ShowCustomer(qint32 rowid, bool bEdit) override;
+    void ShowPS(qint32 rowid, qint32 custid, bool bEdit) override;
+    void ShowIssue(qint32 rowid, qint32 custid, bool bEdit, qint32 templateId) override;
+    void ShowIssueTemplate(qint32 rowid, bool bEdit);
+    bool GetIssueTemplateID(qint32 &id) override;
     void NotifyCustomer(qint32 custid, int what, qint32 id) override;
     void LookupCustomer() override;
+    void LookupByCustomerNumber(); // asks for the Customer ID until it is one
+    void LookupByIssueNumber();    // the same for an issue
     void NewCustomer() override;
-    void EditCategory(qint32) override {}
-    void SendMail(const QString &to, const QString &subject, const QString &body) override;
+    void EditCategory(qint32 type) override;
+    QString GetShortDateFromPopupCalendar(const QString &start) override;
+    bool SendMail(const QString &to, const QString &subject, const QString &body) override;
     void showChild(QWidget *form) override;
-    void showHelp(int) override {}
+    void showHelp(int topic) override;
+    void HelpCenter();
+    void TipOfTheDay();
+    // What a person who has not said otherwise sees behind the start.
+    void showStartupHelp();
+
+    // What common/ui/Mail.h does, under the names the other windows know.
+    bool SendMailMAPI(const QString &to, const QString &subject, const QString &body);
+    bool SendMailOutlook(const QString &to, const QString &subject, const QString &body);
+    int GetEmailHandler();
+    void SetEmailHandler(int handler);
+    void EmailHandlerDlg();
+    void NoMAPIMsg();
+    void NoOutlookMsg();
+
+    // The label says what the parameter holds, and a colon; it stays when there is no such one.
+    void SetCustomFieldLabel(QLabel *label, const QString &name);
+    // The list commands go by the names that the database gives to its fields.
+    void SetCustomMenuLabels();
+
+    void ChangePassword();
+    void UserManagement();
+    void Customizations();
+    void ManageIssueTemplates();
+    void EditCustomerCategory();
+    void EditProductServiceCategory();
+    void EditContractTypesCategory();
+    void EditContractDurationsCategory();
+    void EditStateCategory();
+    void EditCountryCategory();
+    void EditIssueStatusCategory();
+    void EditIssueActionsCategory();
+    void EditIssuePriorityCategory();
+    void EditIssueCategory();
+    void EditCustomFieldCategory(qint32 type);
+    // What the toolbar's button or drop-down item of that key does; unknown keys do nothing.
+    void ToolbarCommand(const QString &key);
 
 protected:
     void closeEvent(QCloseEvent *event) override;
     void changeEvent(QEvent *event) override;
 
 private:
+    struct MenuLine;
+    struct ToolLine;
+    static const std::vector<MenuLine> &menuLines();
+    static const std::vector<ToolLine> &toolLines();
+    static const ToolLine *toolLine(const QString &key); // null: there is none
+
+    void InitMenus();
     void InitToolBar();
+    void addMenuLine(const MenuLine &line);
+    void addToolLine(const ToolLine &line);
+    QAction *command(const QString &name) const; // by the name of its menu entry
+    QMenu *menuNamed(const QString &name) const;
     void buildStatusBar();
-    void connectFileMenu();
-    void connectViewMenu();
-    void connectWindowMenu();
-    void connectHelpMenu();
     void answerDatabaseCore();
     void setAreaColour();
+
+    void showCustomerOfNumber(const QString &number);
 
     void fileNew();
     void createDatabase();
     void fileOpen();
     void fileClose();
+    void displayDataFolder();
+    void fileExit();
+    void showStatistics();
+    void countRecords();
+    void helpFAQs();
+    void helpProductOverview();
+    void helpSpecSheet();
+    void helpUserManual();
+    void helpTutorial();
     void helpSupport();
+    void helpBackup();
     void helpAbout();
 
+    void tileHorizontally();
+    void tileVertically();
+    void cascade();
+    void arrangeMinimised();
     void noteSizesGiven();
     void fillWindowMenu();
-    void listWindow(QMdiSubWindow *window, int number);
+    void listWindow(QMenu *menu, QMdiSubWindow *window, int number);
     void closeAllWindows();
 
     std::unique_ptr<Ui::frmMain> ui;
+    QTimer m_watch; // over the other stations' locks
     StatusPanel *m_location = nullptr;
     StatusPanel *m_user = nullptr;
     StatusPanel *m_edition = nullptr;
+    bool m_counting = false;
 };

@@ -1,21 +1,19 @@
-// What opens customers, and the Help commands.
+// What opens customers, and issues by their number.
 #include "shell/frmMain.h"
 
 #include "common/base/AppInfo.h"
 #include "common/base/clsSystem.h"
+#include "common/base/Failure.h"
+#include "common/base/HelpTopics.h"
 #include "common/base/Host.h"
 #include "common/base/Numbers.h"
 #include "common/base/Prompts.h"
 #include "common/ui/FormWindow.h"
+#include "common/ui/frmCalendar.h"
 #include "db/clsDB.h"
 #include "forms/frmCustomer.h"
 #include "search/frmCustomerList.h"
 #include "search/frmLookupCustomer.h"
-#include "shell/frmSplash.h"
-#include "ui_frmMain.h"
-
-#include <QUrl>
-#include <QUrlQuery>
 
 namespace
 {
@@ -38,22 +36,25 @@ bool customerExists(qint32 rowid)
                                 schema::table(schema::Table::Customer).dataFile(), rowid);
 }
 
+bool issueExists(qint32 rowid)
+{
+    return gDB.CheckIfRecExists(gDB.IssuesTable(), schema::table(schema::Table::Issues).dataFile(),
+                                rowid);
+}
+
+// Asks until it gets a number; empty when the person gave up.
+QString askForNumber(const QString &prompt, const QString &refusal)
+{
+    for (;;) {
+        const QString answer = clsSystem::Trim(
+            prompts::input(prompt, app::title(), {}, help::LookupByNumber).value_or(QString()));
+        if (answer.isEmpty() || IsNumeric(answer))
+            return answer;
+        prompts::warn(refusal);
+    }
+}
+
 } // namespace
-
-void frmMain::connectViewMenu()
-{
-    for (QAction *command : {ui->mnuViewLookupCustomer, ui->LOOKUPCUST})
-        connect(command, &QAction::triggered, this, &frmMain::LookupCustomer);
-    for (QAction *command : {ui->mnuViewNewCustomer, ui->NEWCUST})
-        connect(command, &QAction::triggered, this, &frmMain::NewCustomer);
-}
-
-void frmMain::connectHelpMenu()
-{
-    connect(ui->mnuHelpBackup, &QAction::triggered, this, [this] { gSys.ShowMsg(BackupMsg()); });
-    connect(ui->mnuHelpSupport, &QAction::triggered, this, &frmMain::helpSupport);
-    connect(ui->mnuHelpAbout, &QAction::triggered, this, &frmMain::helpAbout);
-}
 
 void frmMain::ShowCustomer(qint32 rowid, bool bEdit)
 {
@@ -71,7 +72,7 @@ void frmMain::ShowCustomer(qint32 rowid, bool bEdit)
 
 void frmMain::NewCustomer()
 {
-    if (gDB.Perm_Customers())
+    if (gDB.Perm_Customers() && gDB.MayWrite())
         ShowCustomer(-1, true);
 }
 
@@ -81,14 +82,38 @@ void frmMain::LookupCustomer()
     if (lookup.exec() != QDialog::Accepted)
         return;
     if (lookup.searchType() == SearchId) {
-        const qint32 rowid = idInText(lookup.searchStr());
-        if (rowid > 0 || customerExists(rowid))
-            ShowCustomer(rowid, false);
+        showCustomerOfNumber(lookup.searchStr());
         return;
     }
     auto list = std::make_unique<frmCustomerList>();
     list->Init(lookup.searchStr(), lookup.searchType());
     showChild(list.release());
+}
+
+void frmMain::LookupByCustomerNumber()
+{
+    const QString number =
+        askForNumber(tr("Enter Customer ID"), tr("Please enter a numeric value for Customer ID!"));
+    if (!number.isEmpty())
+        showCustomerOfNumber(number);
+}
+
+void frmMain::LookupByIssueNumber()
+{
+    const QString number =
+        askForNumber(tr("Enter Issue ID"), tr("Please enter a numeric value for Issue ID!"));
+    if (number.isEmpty())
+        return;
+    const qint32 rowid = idInText(number);
+    if (rowid > 0 || issueExists(rowid))
+        ShowIssue(rowid, -1, false, -1);
+}
+
+void frmMain::showCustomerOfNumber(const QString &number)
+{
+    const qint32 rowid = idInText(number);
+    if (rowid > 0 || customerExists(rowid))
+        ShowCustomer(rowid, false);
 }
 
 // The lists are called by name: what a customer window shows is its own affair.
@@ -103,31 +128,18 @@ void frmMain::NotifyCustomer(qint32 custid, int what, qint32 id)
         QMetaObject::invokeMethod(form, list, Q_ARG(int, id));
 }
 
-void frmMain::SendMail(const QString &to, const QString &subject, const QString &body)
+QString frmMain::GetShortDateFromPopupCalendar(const QString &start)
 {
-    QUrl address;
-    address.setScheme(QStringLiteral("mailto"));
-    address.setPath(to);
-    QUrlQuery query;
-    if (!subject.isEmpty())
-        query.addQueryItem(QStringLiteral("subject"), subject);
-    if (!body.isEmpty())
-        query.addQueryItem(QStringLiteral("body"), body);
-    address.setQuery(query);
-    gSys.GotoWebsite(address.toString(QUrl::FullyEncoded));
-}
-
-void frmMain::helpSupport()
-{
-    const QString question = tr("Support for %1 can be obtained online at").arg(app::title()) +
-                             u'\n' + app::website() + QLatin1String("\n\n") +
-                             tr("Would you like to go to this website?");
-    if (prompts::ask(question) == prompts::Answer::Yes)
-        gSys.GotoDVWebsite();
-}
-
-void frmMain::helpAbout()
-{
-    frmSplash about(this);
-    about.exec();
+    QString picked;
+    bool shown = false;
+    guarded("frmMain_GetShortDateFromPopupCalendar", [&] {
+        frmCalendar calendar(this);
+        calendar.Init(start, tr("OK"));
+        calendar.exec();
+        picked = calendar.pickedDate();
+        shown = true;
+    });
+    if (!shown)
+        prompts::inform(tr("To correct this problem, please re-install %1").arg(app::title()));
+    return picked;
 }

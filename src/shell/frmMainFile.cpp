@@ -6,7 +6,6 @@
 #include "common/base/Failure.h"
 #include "common/base/Prompts.h"
 #include "db/clsDB.h"
-#include "ui_frmMain.h"
 
 namespace
 {
@@ -32,16 +31,6 @@ QString newDatabaseExplanation()
 }
 
 } // namespace
-
-void frmMain::connectFileMenu()
-{
-    connect(ui->mnuFileNew, &QAction::triggered, this, &frmMain::fileNew);
-    connect(ui->mnuFileOpen, &QAction::triggered, this, &frmMain::fileOpen);
-    connect(ui->mnuFileClose, &QAction::triggered, this, &frmMain::fileClose);
-    connect(ui->mnuDisplayDataFolder, &QAction::triggered, this,
-            [] { gSys.ShowFolder(gDB.DBPath()); });
-    connect(ui->mnuFileExit, &QAction::triggered, this, &QWidget::close);
-}
 
 void frmMain::fileNew()
 {
@@ -93,6 +82,16 @@ void frmMain::fileClose()
 {
     gDB.CloseDB();
     SetUI();
+}
+
+void frmMain::displayDataFolder()
+{
+    gSys.ShowFolder(gDB.DBPath());
+}
+
+void frmMain::fileExit()
+{
+    close();
 }
 
 QString frmMain::BackupMsg(const QString &dir) const

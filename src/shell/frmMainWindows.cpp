@@ -6,24 +6,29 @@
 #include "shell/MdiArrange.h"
 #include "ui_frmMain.h"
 
-void frmMain::connectWindowMenu()
+#include <QMenu>
+
+void frmMain::tileHorizontally()
 {
-    connect(ui->mnuWindowTH, &QAction::triggered, this, [this] {
-        tileWindows(ui->mdiArea, Tiling::Horizontally);
-        noteSizesGiven();
-    });
-    connect(ui->mnuWindowTV, &QAction::triggered, this, [this] {
-        tileWindows(ui->mdiArea, Tiling::Vertically);
-        noteSizesGiven();
-    });
-    connect(ui->mnuWindowCascade, &QAction::triggered, this, [this] {
-        cascadeWindows(ui->mdiArea);
-        noteSizesGiven();
-    });
-    connect(ui->mnuWindowArrangeIcons, &QAction::triggered, this,
-            [this] { arrangeIcons(ui->mdiArea); });
-    connect(ui->mnuWindowCloseAll, &QAction::triggered, this, &frmMain::closeAllWindows);
-    connect(ui->mnuWindow, &QMenu::aboutToShow, this, &frmMain::fillWindowMenu);
+    tileWindows(ui->mdiArea, Tiling::Horizontally);
+    noteSizesGiven();
+}
+
+void frmMain::tileVertically()
+{
+    tileWindows(ui->mdiArea, Tiling::Vertically);
+    noteSizesGiven();
+}
+
+void frmMain::cascade()
+{
+    cascadeWindows(ui->mdiArea);
+    noteSizesGiven();
+}
+
+void frmMain::arrangeMinimised()
+{
+    arrangeIcons(ui->mdiArea);
 }
 
 void frmMain::showChild(QWidget *form)
@@ -54,28 +59,30 @@ void frmMain::closeAllWindows()
 // The commands stay; behind them the open windows are listed anew each time.
 void frmMain::fillWindowMenu()
 {
+    QMenu *menu = menuNamed(QStringLiteral("mnuWindow"));
+    const QAction *lastCommand = command(QStringLiteral("mnuWindowCloseAll"));
     const QList<QMdiSubWindow *> windows = ui->mdiArea->subWindowList();
     bool listed = false; // entries of the time before
-    for (QAction *entry : ui->mnuWindow->actions()) {
+    for (QAction *entry : menu->actions()) {
         if (listed)
             delete entry;
         else
             entry->setEnabled(!windows.isEmpty());
-        listed = listed || entry == ui->mnuWindowCloseAll;
+        listed = listed || entry == lastCommand;
     }
     if (!windows.isEmpty())
-        ui->mnuWindow->addSeparator();
+        menu->addSeparator();
     for (int at = 0; at < windows.size(); ++at)
-        listWindow(windows[at], at + 1);
+        listWindow(menu, windows[at], at + 1);
 }
 
-void frmMain::listWindow(QMdiSubWindow *window, int number)
+void frmMain::listWindow(QMenu *menu, QMdiSubWindow *window, int number)
 {
     QString title = window->windowTitle();
     title.replace(u'&', QLatin1String("&&"));
     if (number < 10)
         title.prepend(QString(u'&' + QString::number(number) + u' '));
-    QAction *entry = ui->mnuWindow->addAction(title);
+    QAction *entry = menu->addAction(title);
     entry->setCheckable(true);
     entry->setChecked(window == ui->mdiArea->activeSubWindow());
     connect(entry, &QAction::triggered, window, [this, window] {

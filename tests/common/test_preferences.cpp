@@ -64,6 +64,32 @@ TEST_F(PreferencesStore, WhatWeDidNotWriteIsReadWithCare)
     EXPECT_EQ(1024, GetPrefStr("db").size());
 }
 
+TEST_F(PreferencesStore, ADamagedStoreReadsAsDefaultsAndTakesNewValues)
+{
+    QByteArray everyByte;
+    for (int i = 0; i < 4096; ++i)
+        everyByte.append(static_cast<char>(i * 7));
+    const QByteArray stores[] = {"",
+                                 QByteArray(3000, '\0'),
+                                 everyByte,
+                                 "[Pref",
+                                 "[Pref]\ndb",
+                                 "[Pref]\ndb=\"/data",
+                                 "[Pref]\ntop=@Variant(\\0\\0\\0\\x7f\\xff)\n",
+                                 "[Pref]\ntop=@Rect(1 2)\nleft=\\x110000\\\n",
+                                 QByteArray(200000, '[')};
+    for (const QByteArray &store : stores) {
+        SCOPED_TRACE(store.left(20).toStdString());
+        writeStore(store);
+        EXPECT_EQ(0, GetPrefLong("top"));
+        EXPECT_LE(GetPrefStr("db").size(), 1024);
+        SetPrefStr("db", "/data/ours");
+        EXPECT_EQ("/data/ours", GetPrefStr("db"));
+        SetPrefLong("top", 12);
+        EXPECT_EQ(12, GetPrefLong("top"));
+    }
+}
+
 TEST_F(PreferencesStore, AStoreThatCannotBeWrittenAnswersFalse)
 {
     const QString before = usePreferencesFile("/proc/norvane/none.ini");

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QDate>
 #include <QDir>
 #include <QFile>
 #include <QSet>
@@ -103,20 +104,82 @@ TEST(Demo, EveryRowOfTheFileBecomesACustomerWithItsListEntries)
     EXPECT_EQ(*std::min_element(ids.begin(), ids.end()), 1000);
 }
 
+// Whatever refers to something refers to a row that is there, and of the right kind.
+TEST(Demo, WhatCustomersHoldAndRaisedHangsTogether)
+{
+    QTemporaryDir dir;
+    ASSERT_EQ(ctlRun({"demo", dir.path()}).code, 0);
+    const auto ids = [&dir](const QString &table) {
+        QSet<int> found;
+        for (const QJsonObject &row : dumpedRows(dir.path(), table))
+            found << row["rowid"].toInt();
+        return found;
+    };
+    QHash<int, int> types;
+    for (const QJsonObject &row : dumpedRows(dir.path(), "lookups"))
+        types.insert(row["rowid"].toInt(), row["type"].toInt());
+    const QSet<int> customers = ids("customers");
+    const QSet<int> users = ids("users");
+    const QSet<int> issues = ids("issues");
+    EXPECT_EQ(users.size(), 5);
+
+    const QList<QJsonObject> subscriptions = dumpedRows(dir.path(), "subscriptions");
+    EXPECT_GT(subscriptions.size(), 200);
+    for (const QJsonObject &row : subscriptions) {
+        EXPECT_TRUE(customers.contains(row["custid"].toInt()));
+        EXPECT_EQ(types.value(row["psid"].toInt()), 2);
+        EXPECT_EQ(types.value(row["conttype"].toInt()), 103);
+        EXPECT_EQ(types.value(row["contdur"].toInt()), 104);
+    }
+    QSet<int> statuses;
+    const QString today = QDate::currentDate().addDays(1).toString("yyyyMMdd"); // across midnight
+    for (const QJsonObject &row : dumpedRows(dir.path(), "issues")) {
+        statuses << row["status"].toInt();
+        EXPECT_TRUE(customers.contains(row["custid"].toInt()));
+        EXPECT_TRUE(users.contains(row["assignedto"].toInt()));
+        EXPECT_EQ(types.value(row["psid"].toInt()), 2);
+        EXPECT_EQ(types.value(row["status"].toInt()), 101);
+        EXPECT_EQ(types.value(row["priority"].toInt()), 102);
+        EXPECT_EQ(types.value(row["issuecat"].toInt()), 105);
+        EXPECT_LE(row["submitdt"].toString(), row["responsedt"].toString());
+        EXPECT_LE(row["responsedt"].toString(), today);
+        const bool settled = row["status"].toInt() == 401;
+        EXPECT_EQ(!row["resolvedt"].toString().isEmpty(), settled);
+        EXPECT_EQ(!row["resolution"].toString().isEmpty(), settled);
+    }
+    EXPECT_GT(statuses.size(), 3);
+    QSet<int> withActions;
+    for (const QJsonObject &row : dumpedRows(dir.path(), "actions")) {
+        withActions << row["issueid"].toInt();
+        EXPECT_EQ(types.value(row["action"].toInt()), 106);
+        EXPECT_GT(row["duration"].toDouble(), 0);
+    }
+    EXPECT_EQ(withActions, issues);
+    for (const QJsonObject &row : dumpedRows(dir.path(), "templates"))
+        EXPECT_FALSE(row["name"].toString().isEmpty());
+
+    const QStringList folders =
+        QDir(dir.filePath("nvnattach")).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    EXPECT_GT(folders.size(), 5);
+    for (const QString &folder : folders)
+        EXPECT_TRUE(issues.contains(folder.section('_', -1).toInt())) << qPrintable(folder);
+}
+
 TEST(Demo, IsTheSameEveryTime)
 {
     QTemporaryDir one;
     QTemporaryDir two;
     ASSERT_EQ(ctlRun({"demo", one.path()}).code, 0);
     ASSERT_EQ(ctlRun({"demo", two.path()}).code, 0);
-    const auto rows = [](const QTemporaryDir &dir) {
-        QList<QJsonObject> all = dumpedRows(dir.path(), "customers");
+    const auto rows = [](const QTemporaryDir &dir, const QString &table) {
+        QList<QJsonObject> all = dumpedRows(dir.path(), table);
         for (QJsonObject &row : all) {
             row.remove("lastmoddt");
             row.remove("lastmodtm");
         }
         return all;
     };
-    EXPECT_EQ(rows(one), rows(two));
-    EXPECT_EQ(dumpedRows(one.path(), "lookups"), dumpedRows(two.path(), "lookups"));
+    for (const char *table :
+         {"customers", "lookups", "subscriptions", "issues", "actions", "templates"})
+        EXPECT_EQ(rows(one, table), rows(two, table)) << table;
 }

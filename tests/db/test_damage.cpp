@@ -77,10 +77,37 @@ TEST_F(Damage, ATableThatMakesNoSenseNamesItselfAndOpensNothing)
     RecColl row = record(u"_customer"_s, id);
     const QStringList texts = told([&] { EXPECT_FALSE(gDB.ReadRecord(row)); });
     ASSERT_EQ(2, texts.size()) << qPrintable(texts.join(u'\n'));
-    EXPECT_TRUE(texts[0].contains(u"nvncust.dbf")) << qPrintable(texts[0]);
+    EXPECT_TRUE(texts[0].contains(u"nvncust.dbf' is damaged")) << qPrintable(texts[0]);
+    EXPECT_TRUE(texts[0].contains(u"open for reading only"));
     EXPECT_EQ(u"Unable to open: "_s + gDB.CustomerTable(), texts[1]);
-    // Other tables go on working.
+    // Other tables can still be looked at.
     EXPECT_EQ(1, gDB.GetRecCount(gDB.UserTable(), u"login"_s));
+}
+
+TEST_F(Damage, AFolderWithADamagedTableOpensForReadingOnlyAndSaysSoOnce)
+{
+    const QString name = u"nvnrep.dbf"_s;
+    const QByteArray whole = contents(name);
+    const QByteArray wrecks[] = {QByteArray(5000, 'x'), whole.left(20), QByteArray()};
+    for (const QByteArray &wreck : wrecks) {
+        gDB.CloseDB();
+        overwrite(name, wreck);
+        person.expect(db.file(name) + u"' is damaged"_s).kind(prompts::Kind::Critical);
+        db.loginAs(u"SYSOP"_s, u"sysop"_s);
+        ASSERT_TRUE(gDB.IsReadOnly());
+        RecColl row = record(u"_customer"_s, id);
+        EXPECT_TRUE(gDB.ReadRecord(row));
+        const QByteArray customers = contents(u"nvncust.dbf"_s);
+        person.expect(u"because the file '"_s + db.file(name) + u"' is damaged"_s);
+        EXPECT_FALSE(gDB.SaveRecord(row));
+        EXPECT_EQ(customers, contents(u"nvncust.dbf"_s));
+        EXPECT_EQ(wreck, contents(name));
+
+        overwrite(name, whole); // from a backup
+        db.loginAs(u"SYSOP"_s, u"sysop"_s);
+        EXPECT_FALSE(gDB.IsReadOnly());
+        EXPECT_TRUE(gDB.SaveRecord(row));
+    }
 }
 
 TEST_F(Damage, AMissingIndexOrMemoFileIsNamedBeforeItsTable)
@@ -96,7 +123,7 @@ TEST_F(Damage, ATruncatedTableIsToldAndTakesNoNewRow)
 {
     const QString names[] = {u"nvncust.dbf"_s, u"nvncust.cdx"_s, u"nvncust.fpt"_s};
     const QByteArray whole[] = {contents(names[0]), contents(names[1]), contents(names[2])};
-    for (const QString &name : names) {
+    for (const QString &name : {names[0], names[2]}) {
         for (const qint64 size : {0, 1, 31, 33, 511, 700, 1100}) {
             cut(name, std::min(size, QFile(db.file(name)).size() - 200));
             const QByteArray left = contents(name);
@@ -116,6 +143,23 @@ TEST_F(Damage, ATruncatedTableIsToldAndTakesNoNewRow)
             for (int i = 0; i < 3; ++i)
                 overwrite(names[i], whole[i]);
         }
+    }
+}
+
+TEST_F(Damage, ADamagedIndexIsBuiltAnewWithoutAWord)
+{
+    const QString name = u"nvncust.cdx"_s;
+    for (const qint64 size : {0, 1, 33, 511, 1100, 5000}) {
+        cut(name, size);
+        const QByteArray left = contents(name);
+        RecColl row = record(u"_customer"_s, id);
+        EXPECT_TRUE(gDB.ReadRecord(row)) << size;
+        RecColl fresh = gDB.NewCustomerRecColl();
+        EXPECT_TRUE(gDB.SaveRecord(fresh)) << size;
+        QFile kept(db.file(name + u".bad"));
+        ASSERT_TRUE(kept.open(QIODevice::ReadOnly));
+        EXPECT_EQ(left, kept.readAll()) << size;
+        ASSERT_TRUE(kept.remove());
     }
 }
 

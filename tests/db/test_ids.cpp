@@ -4,6 +4,7 @@
 #include "db/clsCustomLabels.h"
 #include "db/TableUse.h"
 
+#include <functional>
 #include <limits>
 
 namespace
@@ -54,6 +55,41 @@ TEST_F(Ids, AGarbledCounterGivesNoIdentifierThatMayBeInUse)
     setCounter(u"x.dbf"_s, 7);
     person.expect(u"nvnid.dbf' is damaged"_s).kind(prompts::Kind::Critical);
     EXPECT_EQ(-1, gDB.GetNextID(u"x.dbf"_s));
+}
+
+TEST_F(Ids, ALostOrRestoredCounterNeverGivesANumberTwice)
+{
+    const QString customers = u"nvncust.dbf"_s;
+    const qint32 first = db.addCustomer({{"company", u"One"_s}});
+    const qint32 second = db.addCustomer({{"company", u"Two"_s}});
+    const std::pair<const char *, std::function<void()>> losses[] = {
+        {"restored", [&] { setCounter(customers, first); }},
+        {"restored while the latest row was deleted",
+         [&] {
+             ASSERT_TRUE(gDB.DeleteRecord(second, gDB.CustomerTable()));
+             setCounter(customers, second);
+         }},
+        {"garbled", [&] { setCounter(customers, 0); }},
+        {"gone",
+         [&] {
+             TableUse rows(gDB, gDB.LastIDTable());
+             ASSERT_TRUE(rows.seekText(customers, u"tblname"_s));
+             const RowLock lock(rows.handle());
+             norvane::engine::d4delete(rows.handle());
+             norvane::engine::d4flush(rows.handle());
+         }},
+    };
+    qint32 highest = second;
+    for (const auto &[what, lose] : losses) {
+        lose();
+        // The number counts on from there, also where no row was stored with it.
+        EXPECT_EQ(highest + 1, gDB.GetNextID(customers)) << what;
+        EXPECT_EQ(highest + 2, db.addCustomer({{"company", u"More"_s}})) << what;
+        highest += 2;
+    }
+    EXPECT_EQ(highest + 1, db.otherStation()->GetNextID(customers));
+    setCounter(customers, highest + 50); // one that is ahead stays so
+    EXPECT_EQ(highest + 50, gDB.GetNextID(customers));
 }
 
 TEST_F(Ids, ParametersIgnoreCaseAndKeepOneRow)

@@ -114,6 +114,24 @@ TEST_F(Lookups, LookupOrAddKeepsOneEntryOfEachText)
     gDB.CloseTable(table);
 }
 
+TEST_F(Lookups, AnEntryIsAddedOrRenamedWhereItIs)
+{
+    const clsDB::ListTable list{u"nvncat.dbf"_s, gDB.CategoryTable(), u"rowid"_s, u"desc"_s, 900};
+    const qint32 added = gDB.AddUpdateItem(list, -1, u"New \u20ac"_s);
+    EXPECT_GT(added, gamma);
+    EXPECT_EQ(added, gDB.CategoryExists(u"NEW \u20ac"_s, 900));
+    EXPECT_EQ(alpha, gDB.AddUpdateItem(list, alpha, u"Omega"_s));
+    EXPECT_EQ(u"Omega"_s, gDB.GetCategoryDesc(alpha));
+    EXPECT_EQ(-1, gDB.CategoryExists(u"alpha"_s, 900));
+    EXPECT_EQ(0, gDB.AddUpdateItem(list, alpha, {}));
+    ASSERT_TRUE(gDB.DeleteRecord(alpha, list.path));
+    person.expect(u"Unable to update this item in table nvncat.dbf!"_s)
+        .kind(prompts::Kind::Critical);
+    EXPECT_EQ(0, gDB.AddUpdateItem(list, alpha, u"Psi"_s));
+    gDB.LoadLV(sink, gDB.CategoryTable(), u"rowid"_s, u"desc"_s, 900, true);
+    EXPECT_EQ((QStringList{u"beta"_s, u"New \u20ac"_s, u"\u00c9t\u00e9"_s}), sink.texts());
+}
+
 TEST_F(Lookups, AnItemInUseCannotBeDeleted)
 {
     const qint32 id = db.addIssue({{"shortdesc", u"x"_s}, {"priority", beta}});
@@ -123,7 +141,11 @@ TEST_F(Lookups, AnItemInUseCannotBeDeleted)
     EXPECT_FALSE(gDB.CanDeleteItem(1, issues, u"lastmodby"_s)) << "a field without a tag";
     EXPECT_TRUE(gDB.CanDeleteItem(2, issues, u"lastmodby"_s));
     EXPECT_TRUE(gDB.CanDeleteItem(beta, {}, {}));
-    ASSERT_TRUE(gDB.DeleteRecord(id, issues));
+    const clsDB::Handle table = gDB.OpenTable(issues);
+    EXPECT_FALSE(gDB.CanDeleteItem(beta, issues, u"priority"_s, table));
+    ASSERT_TRUE(gDB.DeleteRecord(id, issues, table));
+    EXPECT_TRUE(gDB.CanDeleteItem(beta, issues, u"priority"_s, table));
+    gDB.CloseTable(table);
     EXPECT_TRUE(gDB.CanDeleteItem(beta, issues, u"priority"_s));
 }
 

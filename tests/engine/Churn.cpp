@@ -164,8 +164,9 @@ private:
 
 } // namespace
 
-std::string takeIds(Handle session, const std::string &path, int count)
+std::string takeIds(Handle session, const std::string &path, int count, bool all)
 {
+    std::string numbers;
     int first = 0;
     int last = 0;
     for (int i = 0; i < count; ++i) {
@@ -176,8 +177,10 @@ std::string takeIds(Handle session, const std::string &path, int count)
             first = last;
         else if (last <= before)
             return "number " + std::to_string(last) + " came twice";
+        if (all)
+            numbers += std::to_string(last) + ' ';
     }
-    return std::to_string(first) + ' ' + std::to_string(last);
+    return all ? numbers : std::to_string(first) + ' ' + std::to_string(last);
 }
 
 std::string saveAndTell(Handle session, const std::string &path, int first)
@@ -204,6 +207,52 @@ std::string saveAndTell(Handle session, const std::string &path, int first)
         }
         d4close(table);
     }
+}
+
+std::string fixedName(int number)
+{
+    std::string digits = std::to_string(number);
+    return "FIXED " + std::string(4 - digits.size(), '0') + digits;
+}
+
+std::string pushBetween(Handle table, int count, int seed)
+{
+    constexpr int kFirst = 100000;
+    std::minstd_rand random(static_cast<std::uint32_t>(seed));
+    for (int i = 0; i < count; ++i) {
+        const std::string name = fixedName(static_cast<int>(random() % 100)) + ' ' +
+                                 std::to_string(random()) + std::to_string(random());
+        const int id = kFirst + seed * count + i;
+        if (addPerson(table, id, name) != r4success)
+            return "not added: " + std::to_string(id);
+        if (findPerson(table, id - count) != r4success)
+            continue; // the first call
+        if (d4lock(table, d4recNo(table)) != r4success || d4delete(table) != r4success ||
+            d4flush(table) != r4success || d4unlock(table) != r4success)
+            return "not deleted: " + std::to_string(id - count);
+    }
+    return "ok";
+}
+
+std::string watchFixed(Handle table, int count)
+{
+    selectTag(table, "name");
+    int next = 1;
+    std::string last;
+    Code code = d4seek(table, "FIXED");
+    for (; code == r4success || code == r4after; code = d4skip(table, 1)) {
+        const std::string name = text(table, "name");
+        if (name < last)
+            return name + " comes behind " + last;
+        last = name;
+        if (f4long(d4field(table, "rowid")) > count)
+            continue;
+        if (name != fixedName(next))
+            return name + " instead of " + fixedName(next);
+        ++next;
+    }
+    return next == count + 1 ? "ok"
+                             : fixedName(next) + " does not come, code " + std::to_string(code);
 }
 
 std::string churn(Handle session, const std::string &path, int seed, int count)

@@ -90,6 +90,14 @@ std::size_t SimDisk::locksHeld() const
     return count;
 }
 
+std::uint64_t SimDisk::used() const
+{
+    std::uint64_t bytes = 0;
+    for (const auto &[path, content] : files)
+        bytes += content->bytes.size();
+    return bytes;
+}
+
 std::unique_ptr<SimDisk> SimDisk::copy() const
 {
     auto other = std::make_unique<SimDisk>();
@@ -145,6 +153,7 @@ public:
           m_content(std::move(content)),
           m_readOnly(readOnly)
     {
+        (void)SimFile::freshen(); // opening shows it as it is
     }
     ~SimFile() override { dropLocks(); }
 
@@ -152,7 +161,7 @@ public:
     {
         if (Status status = called(false); !status.ok())
             return status.error();
-        const std::vector<Byte> &bytes = m_content->bytes;
+        const std::vector<Byte> &bytes = shown();
         if (offset >= bytes.size())
             return std::size_t{0};
         const std::size_t count = std::min<std::size_t>(into.size(), bytes.size() - offset);
@@ -170,7 +179,12 @@ public:
             return status;
         // what a full disk still took: whole sectors
         const std::uint64_t half = (offset + bytes.size() / 2) / kSectorLength * kSectorLength;
-        const std::size_t length = status.ok() ? bytes.size() : half > offset ? half - offset : 0;
+        std::size_t length = status.ok() ? bytes.size() : half > offset ? half - offset : 0;
+        const std::uint64_t fits = largestSize();
+        if (status.ok() && offset + length > std::max<std::uint64_t>(fits, sizeNow())) {
+            length = fits > offset ? std::min<std::size_t>(length, fits - offset) : 0;
+            status = Error{ErrorKind::NoSpace, m_path, "the disk is full"};
+        }
         change({SimDisk::Change::Kind::Write,
                 m_path,
                 offset,
@@ -183,7 +197,14 @@ public:
     {
         if (Status status = called(false); !status.ok())
             return status.error();
-        return std::uint64_t{m_content->bytes.size()};
+        return std::uint64_t{shown().size()};
+    }
+    bool onNetwork() override { return m_station.remote; }
+    Status freshen() override
+    {
+        if (m_station.remote)
+            m_seen = m_content->bytes;
+        return {};
     }
 
     Status resize(std::uint64_t size) override
@@ -192,6 +213,8 @@ public:
             return Error{ErrorKind::ReadOnly, m_path, "opened for reading only"};
         if (Status status = called(true); !status.ok())
             return status;
+        if (size > sizeNow() && size > largestSize())
+            return Error{ErrorKind::NoSpace, m_path, "the disk is full"};
         change({SimDisk::Change::Kind::Resize, m_path, size, {}, {}});
         return {};
     }
@@ -218,7 +241,7 @@ public:
         }
         dropLock(offset);
         m_content->locks.push_back({this, offset, length, mode});
-        return {};
+        return freshen();
     }
 
     Status unlock(std::uint64_t offset, std::uint64_t) override
@@ -238,9 +261,21 @@ private:
             dropLocks();
         return status;
     }
+    const std::vector<Byte> &shown() const { return m_station.remote ? m_seen : m_content->bytes; }
+    std::uint64_t sizeNow() const { return m_content->bytes.size(); }
+    // To which this file could grow.
+    std::uint64_t largestSize() const
+    {
+        const SimDisk &disk = m_station.m_disk;
+        const std::uint64_t others = disk.used() - sizeNow();
+        return disk.room > others ? disk.room - others : 0;
+    }
     void change(SimDisk::Change change)
     {
         perform(change, m_content->bytes);
+        if (m_station.remote)
+            perform(change, m_seen);
+        m_station.m_disk.most = std::max(m_station.m_disk.most, m_station.m_disk.used());
         if (m_station.m_disk.recording)
             m_station.m_disk.changes.push_back(std::move(change));
     }
@@ -258,12 +293,18 @@ private:
     SimStation &m_station;
     std::string m_path;
     std::shared_ptr<SimDisk::Content> m_content;
+    std::vector<Byte> m_seen; // remote: what this open file shows
     bool m_readOnly;
 };
 
 void SimStation::dieAt(int call)
 {
     m_dieAt = call == 0 ? 0 : m_calls + call;
+}
+
+void SimStation::beforeCall(int call, std::function<void()> others)
+{
+    m_others[m_calls + call] = std::move(others);
 }
 
 void SimStation::failAt(int call, ErrorKind kind, bool forEver)
@@ -282,6 +323,8 @@ void SimStation::mend()
 Status SimStation::call(bool changes, bool *partial)
 {
     ++m_calls;
+    if (const auto found = m_others.find(m_calls); found != m_others.end())
+        found->second();
     if (m_dieAt != 0 && m_calls >= m_dieAt)
         m_dead = true;
     if (m_dead)

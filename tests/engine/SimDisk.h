@@ -5,6 +5,7 @@
 #include "db/engine/File.h"
 
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <memory>
 #include <random>
@@ -43,11 +44,15 @@ public:
     Contents files;
     std::uint64_t boot = 1;
     bool recording = false;
+    // Bytes that all files together may have; what goes beyond fails as on a full disk.
+    std::uint64_t room = UINT64_MAX;
+    std::uint64_t most = 0; // bytes they had at most
     std::vector<Change> changes;
 
     std::vector<Byte> &bytes(const std::string &path) { return files.at(path)->bytes; }
     bool has(const std::string &path) const { return files.count(path) != 0; }
     std::size_t locksHeld() const;
+    std::uint64_t used() const;
 
     // A disk of its own with the same contents and no locks.
     std::unique_ptr<SimDisk> copy() const;
@@ -63,10 +68,15 @@ class SimStation final : public FileSystem
 {
 public:
     explicit SimStation(SimDisk &disk) : m_disk(disk) {}
+    // On a network folder: a file shows what others wrote only after a lock on it, freshen() and
+    // opening. Set before any file is opened.
+    bool remote = false;
 
     // The n-th call from now on is the last that this station does not make; 0: lives on.
     void dieAt(int call);
     bool dead() const { return m_dead; }
+    // Before the n-th call from now on others do something.
+    void beforeCall(int call, std::function<void()> others);
     // The n-th call fails with `kind`, and when `forEver` all later ones.
     void failAt(int call, ErrorKind kind, bool forEver);
     bool failed() const { return m_failed; }
@@ -93,6 +103,7 @@ private:
     bool m_forEver = false;
     bool m_failed = false;
     bool m_dead = false;
+    std::map<int, std::function<void()>> m_others;
 };
 
 } // namespace enginetest

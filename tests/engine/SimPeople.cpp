@@ -127,6 +127,20 @@ void note(People &people, const Save &save)
         people[save.id] = save.person;
 }
 
+std::size_t performSaves(Handle session, const std::string &path, const std::vector<Save> &saves)
+{
+    const Handle table = d4open(session, path);
+    if (table == 0)
+        return 0;
+    std::size_t done = 0;
+    if (d4tag(table, "rowid") > 0) {
+        while (done < saves.size() && performOn(table, saves[done]))
+            ++done;
+    }
+    (void)d4close(table);
+    return done;
+}
+
 SimSession::SimSession(SimDisk &disk, const char *durability)
     : station(disk), m_handle(d4init_v(&station))
 {
@@ -138,16 +152,6 @@ SimSession::SimSession(SimDisk &disk, const char *durability)
 SimSession::~SimSession()
 {
     d4initUndo(m_handle);
-}
-
-bool SimSession::perform(const Save &save)
-{
-    const Handle table = d4open(m_handle, kPeoplePath);
-    if (table == 0)
-        return false;
-    const bool done = d4tag(table, "rowid") > 0 && performOn(table, save);
-    (void)d4close(table);
-    return done;
 }
 
 void SimSession::look()

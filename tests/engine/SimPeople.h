@@ -37,6 +37,10 @@ Save insertOf(int id, const std::string &notes = {});
 Save randomSave(const People &people, std::mt19937 &random);
 void note(People &people, const Save &save);
 
+// Opens the table, makes the saves one after the other up to the first that fails, closes; how many
+// were reported as done.
+std::size_t performSaves(Handle session, const std::string &path, const std::vector<Save> &saves);
+
 // A station at work: a session over its own view of the disk.
 class SimSession
 {
@@ -50,7 +54,7 @@ public:
     SimStation station;
 
     // Opens, saves, closes; true when the save was reported as done.
-    bool perform(const Save &save);
+    bool perform(const Save &save) { return performSaves(m_handle, kPeoplePath, {save}) == 1; }
     // Opens, looks for the first row of a tag, closes.
     void look();
 

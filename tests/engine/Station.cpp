@@ -14,7 +14,14 @@ extern char **environ;
 namespace enginetest
 {
 
-Station::Station()
+std::string Station::program()
+{
+    return NORVANE_BINARY_DIR "/bin/engine_station";
+}
+
+Station::Station() : Station(std::vector<std::string>{program()}) {}
+
+Station::Station(std::vector<std::string> command)
 {
     std::signal(SIGPIPE, SIG_IGN); // a station that died shows in its missing answer
     int to[2] = {-1, -1};
@@ -25,17 +32,20 @@ Station::Station()
     posix_spawn_file_actions_init(&actions);
     posix_spawn_file_actions_adddup2(&actions, to[0], STDIN_FILENO);
     posix_spawn_file_actions_adddup2(&actions, from[1], STDOUT_FILENO);
-    std::string program = NORVANE_BINARY_DIR "/bin/engine_station";
-    char *arguments[] = {program.data(), nullptr};
+    std::vector<char *> arguments;
+    arguments.reserve(command.size() + 1);
+    for (std::string &word : command)
+        arguments.push_back(word.data());
+    arguments.push_back(nullptr);
     const int failed =
-        posix_spawn(&m_process, program.c_str(), &actions, nullptr, arguments, environ);
+        posix_spawnp(&m_process, arguments[0], &actions, nullptr, arguments.data(), environ);
     posix_spawn_file_actions_destroy(&actions);
     ::close(to[0]);
     ::close(from[1]);
     m_in = to[1];
     m_out = from[0];
     if (failed != 0)
-        throw std::runtime_error("no station at " + program);
+        throw std::runtime_error("no station at " + command.front());
 }
 
 Station::~Station()

@@ -15,6 +15,8 @@ class Station
 {
 public:
     Station();
+    // Another program, or the same one through others: words of its command line.
+    explicit Station(std::vector<std::string> command);
     ~Station(); // ends the process
     Station(const Station &) = delete;
     Station &operator=(const Station &) = delete;
@@ -26,6 +28,10 @@ public:
     void kill(); // as a crash would
     // What it still wrote before it was killed, line by line.
     std::vector<std::string> lastWords();
+    pid_t process() const { return m_process; }
+    int output() const { return m_out; } // the end to read from; ours
+
+    static std::string program(); // engine_station, where it was built
 
 private:
     pid_t m_process = -1;

@@ -9,12 +9,17 @@
 //   memo FIELD          text            set FIELD TEXT      ok or the error
 //   setmemo FIELD TEXT  ok or the error lock N | unlock     code
 //   flush | delete      code            begin | append      code
+//   make people|counter PATH  ok          check PATH      sound, or the findings
 //   ids PATH N          the first and last of N numbers taken from a counter table
+//   numbers PATH N      all of them
 //   ack PATH SEED       people one after the other for ever, a line "ID NAME" each when it is saved
 //   churn PATH SEED N   N random inserts, updates and deletes in a table of people
+//   push N SEED         N people come in between the others of the open table and go again: ok
+//   watch N             a walk along the names of the open table finds people 1 to N, each once: ok
 #include "engine/Churn.h"
 #include "engine/TableFixture.h"
 
+#include <algorithm>
 #include <iostream>
 #include <sstream>
 
@@ -116,9 +121,19 @@ std::string setUp(Workstation &own, const std::string &verb, std::istringstream 
         code4lockDelay(own.session, second);
         return "ok";
     }
-    if (verb == "ids") {
+    if (verb == "make") {
+        line >> path;
+        makeTable(rest(line), path == "people" ? peopleTable() : counterTable());
+        return "ok";
+    }
+    if (verb == "check") {
+        path = findings(rest(line));
+        std::replace(path.begin(), path.end(), '\n', ';');
+        return path.empty() ? "sound" : path;
+    }
+    if (verb == "ids" || verb == "numbers") {
         line >> path >> first;
-        return takeIds(own.session, path, first);
+        return takeIds(own.session, path, first, verb == "numbers");
     }
     if (verb == "ack") {
         line >> path >> first;
@@ -127,6 +142,14 @@ std::string setUp(Workstation &own, const std::string &verb, std::istringstream 
     if (verb == "churn") {
         line >> path >> first >> second;
         return churn(own.session, path, first, second);
+    }
+    if (verb == "push") {
+        line >> first >> second;
+        return pushBetween(own.table, first, second);
+    }
+    if (verb == "watch") {
+        const std::string seen = watchFixed(own.table, std::stoi(rest(line)));
+        return seen == "ok" ? seen : seen + "; " + afterWrite(own);
     }
     return {};
 }

@@ -116,7 +116,7 @@ TEST(IndexBuild, RefusesTagsThatCannotBe)
     };
     EXPECT_EQ(kindOf({"", "NAME", ""}), ErrorKind::Misuse);
     EXPECT_EQ(kindOf({"ELEVENCHARS", "NAME", ""}), ErrorKind::Misuse);
-    EXPECT_EQ(kindOf({"T", "NOFIELD", ""}), ErrorKind::Refused);
+    EXPECT_EQ(kindOf({"T", "NOFIELD", ""}), ErrorKind::NotFound);
     EXPECT_EQ(kindOf({"T", "LONG+NAME", ""}), ErrorKind::Refused);
     EXPECT_EQ(kindOf({"T", "''", ""}), ErrorKind::Refused);
     EXPECT_EQ(kindOf({"T", "NAME", "NAME"}), ErrorKind::Refused);

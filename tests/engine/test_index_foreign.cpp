@@ -117,5 +117,5 @@ TEST(ForeignIndex, WithUnsupportedTagsIsRefused)
     EXPECT_EQ(opened.error().kind, ErrorKind::Refused);
     EXPECT_EQ(opened.error().place, header);
     table.layout.fields.pop_back(); // a key over a field that is not there
-    EXPECT_EQ(IndexFile::open(table.file, table.layout).error().kind, ErrorKind::Refused);
+    EXPECT_EQ(IndexFile::open(table.file, table.layout).error().kind, ErrorKind::Damaged);
 }

@@ -1,27 +1,35 @@
 // A station that dies at any call: its save is there whole or not at all, all others are there,
 // and the next station finishes or takes back the rest without a question.
+#include "engine/Churn.h"
 #include "engine/SimPeople.h"
+#include "support/MatrixLength.h"
+
+#include "db/engine/TableCreate.h"
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
+#include <algorithm>
 
 using namespace norvane::engine;
 using namespace enginetest;
+using norvane::test::matrixLength;
 
 namespace
 {
 
+enum class Split { None, Leaf, Root };
+
 struct Case {
     const char *name;
     std::vector<Save> before;
-    Save save;
+    std::vector<Save> saves;   // one after the other over one open table
+    Split split = Split::None; // `saves` is then the first insert that makes one
 };
 
-std::vector<Save> inserts(int count, const std::string &notes = {})
+std::vector<Save> inserts(int first, int last, const std::string &notes = {})
 {
     std::vector<Save> saves;
-    for (int id = 1; id <= count; ++id)
+    for (int id = first; id <= last; ++id)
         saves.push_back(insertOf(id, notes));
     return saves;
 }
@@ -34,76 +42,143 @@ Save update(int id, const std::string &name, const std::string &notes)
     return save;
 }
 
+std::vector<Save> deletes(int first, int last)
+{
+    std::vector<Save> saves;
+    for (int id = first; id <= last; ++id)
+        saves.push_back({Save::Kind::Delete, id, {}});
+    return saves;
+}
+
 std::vector<Case> cases()
 {
-    const Save old = insertOf(3, "a text");
-    // 20 rows fill a leaf of the tags but for a little; the numbers below lie around a split
-    return {{"FirstRow", {}, insertOf(1)},
-            {"Insert", inserts(8), insertOf(9, "a text")},
-            {"LongMemo", inserts(8), insertOf(9, std::string(40000, 'x'))},
-            {"KeyMoves", inserts(8, "a text"), update(3, "Zz", "a text")},
-            {"NoKeyMoves", inserts(8, "a text"), update(3, old.person.name, "other text")},
-            {"MemoShorter", inserts(8, std::string(500, 'l')), update(3, old.person.name, "s")},
-            {"MemoLonger", inserts(8, "s"), update(3, old.person.name, std::string(900, 'l'))},
-            {"MemoToEmpty", inserts(8, "a text"), update(3, old.person.name, "")},
-            {"Delete", inserts(8, "a text"), {Save::Kind::Delete, 4, {}}},
-            {"Checkpoint", inserts(61, std::string(2900, 'n')), insertOf(62, "n")},
-            {"Full", inserts(120), insertOf(121)}};
+    const std::string name = insertOf(3).person.name;
+    const std::string more(900, 'l');
+    return {{"FirstRow", {}, inserts(1, 1)},
+            {"Insert", inserts(1, 8), inserts(9, 9, "a text")},
+            {"LongMemo", inserts(1, 8), inserts(9, 9, std::string(40000, 'x'))},
+            {"KeyMoves", inserts(1, 8, "a text"), {update(3, "Zz", "a text")}},
+            {"NoKeyMoves", inserts(1, 8, "a text"), {update(3, name, "other text")}},
+            {"MemoShorter", inserts(1, 8, more), {update(3, name, "s")}},
+            {"MemoLonger", inserts(1, 8, "s"), {update(3, name, more)}},
+            {"MemoToEmpty", inserts(1, 8, "a text"), {update(3, name, "")}},
+            {"Delete", inserts(1, 8, "a text"), deletes(4, 4)},
+            {"DeleteOfAll", inserts(1, 8, "a text"), deletes(1, 8)},
+            {"Purge", inserts(1, 60, "a text"), deletes(21, 40)},
+            {"Import", inserts(1, 8), inserts(9, 28, "a text")},
+            {"Checkpoint", inserts(1, 61, std::string(2900, 'n')), inserts(62, 62, "n")},
+            {"LeafSplit", inserts(1, 30), {}, Split::Leaf},
+            {"RootSplit", inserts(1, 30), {}, Split::Root}};
+}
+
+// What the save adds to the index: any page, or pages above the leaves. A root keeps its place, so
+// a split of it makes two of these, that of a page below it one.
+bool splits(const SimDisk &before, const Save &save, Split wanted)
+{
+    const std::unique_ptr<SimDisk> disk = before.copy();
+    const std::size_t size = disk->bytes("/people.cdx").size();
+    SimSession(*disk).perform(save);
+    const std::vector<Byte> &index = disk->bytes("/people.cdx");
+    int interior = 0;
+    for (std::size_t page = size; page < index.size(); page += 512)
+        interior += index[page] == 0 ? 1 : 0;
+    return wanted == Split::Leaf ? index.size() > size : interior >= 2;
+}
+
+// Names that share nothing, so that few of them fill a page.
+Save wideInsert(int id)
+{
+    Save save = insertOf(id);
+    save.person.name = std::to_string(id * 7919 % 1000) + std::string(25, '#');
+    return save;
 }
 
 struct Prepared {
     std::unique_ptr<SimDisk> disk;
-    People people;
+    std::vector<Save> saves;
+    std::vector<People> states; // before, and after each of the saves
 };
 
-Prepared prepare(const std::vector<Save> &saves)
+Prepared prepare(const Case &one)
 {
-    Prepared ready{diskWithPeople(), {}};
+    Prepared ready{diskWithPeople(), one.saves, {{}}};
+    People &people = ready.states[0];
     SimSession session(*ready.disk);
-    for (const Save &save : saves) {
+    for (const Save &save : one.before) {
         EXPECT_TRUE(session.perform(save)) << lastError(session).detail;
-        note(ready.people, save);
+        note(people, save);
+    }
+    for (int id = static_cast<int>(people.size()) + 1; one.split != Split::None; ++id) {
+        ready.saves = {wideInsert(id)};
+        if (id == 900 || splits(*ready.disk, ready.saves[0], one.split))
+            break;
+        session.perform(ready.saves[0]);
+        note(people, ready.saves[0]);
+    }
+    EXPECT_LT(people.size(), 899U) << "no insert makes that split";
+    for (const Save &save : ready.saves) {
+        People after = ready.states.back();
+        note(after, save);
+        ready.states.push_back(std::move(after));
     }
     return ready;
 }
 
+// A station that dies at its call-th call, or earlier in its work comes through.
+struct Death {
+    std::unique_ptr<SimDisk> disk;
+    std::size_t done = 0; // saves reported
+    bool dead = false;
+};
+
+Death dieAt(const SimDisk &start, const std::vector<Save> &saves, int call)
+{
+    Death death{start.copy(), 0, false};
+    SimSession session(*death.disk);
+    session.station.dieAt(call);
+    death.done = performSaves(session, kPeoplePath, saves);
+    death.dead = session.station.dead();
+    return death;
+}
+
 class JournalDeath : public testing::TestWithParam<Case>
 {
+protected:
+    void SetUp() override { m_ready = prepare(GetParam()); }
+    const People &next(std::size_t done) const
+    {
+        return m_ready.states[std::min(done + 1, m_ready.states.size() - 1)];
+    }
+
+    Prepared m_ready;
 };
 
 TEST_P(JournalDeath, AtEachCallTheSaveIsWholeOrAbsent)
 {
-    const Prepared ready = prepare(GetParam().before);
-    People after = ready.people;
-    note(after, GetParam().save);
+    // of longer work a sample, taken evenly
+    const std::size_t saves = m_ready.saves.size();
+    const int step = saves == 1 ? 1 : matrixLength(7, 31, 1);
     int whole = 0;
     int absent = 0;
-    for (int call = 1;; ++call) {
-        ASSERT_LT(call, 3000);
-        const std::unique_ptr<SimDisk> disk = ready.disk->copy();
-        bool done = false;
-        bool dead = false;
-        {
-            SimSession session(*disk);
-            session.station.dieAt(call);
-            done = session.perform(GetParam().save);
-            dead = session.station.dead();
-        }
-        EXPECT_EQ(disk->locksHeld(), 0U) << "call " << call;
+    for (int call = 1;; call += step) {
+        ASSERT_LT(call, 9000);
+        const Death death = dieAt(*m_ready.disk, m_ready.saves, call);
+        SimDisk &disk = *death.disk;
+        EXPECT_EQ(disk.locksHeld(), 0U) << "call " << call;
+        const People &before = m_ready.states[death.done];
         bool found = false;
-        const std::string problem = compare(*disk, ready.people, &after, &found);
-        ASSERT_EQ(problem, "") << "died at call " << call;
-        ASSERT_TRUE(!done || found) << "an acknowledged save is lost, call " << call;
-        ++(found ? whole : absent);
+        const std::string problem = compare(disk, before, &next(death.done), &found);
+        ASSERT_EQ(problem, "") << "died at call " << call << ", " << death.done << " saves";
+        ++(found || death.done > 0 ? whole : absent);
         // and the next save goes on from there
-        People then = found ? after : ready.people;
-        SimSession next(*disk);
-        const Save more = insertOf(900, "more");
-        ASSERT_TRUE(next.perform(more)) << lastError(next).detail << ", call " << call;
+        People then = found ? next(death.done) : before;
+        SimSession other(disk);
+        const Save more = insertOf(901, "more");
+        ASSERT_TRUE(other.perform(more)) << lastError(other).detail << ", call " << call;
         note(then, more);
-        ASSERT_EQ(compare(*disk, then), "") << "died at call " << call;
-        if (!dead) {
-            EXPECT_TRUE(done);
+        ASSERT_EQ(compare(disk, then), "") << "died at call " << call;
+        if (!death.dead) {
+            EXPECT_EQ(death.done, saves);
             break;
         }
     }
@@ -111,38 +186,146 @@ TEST_P(JournalDeath, AtEachCallTheSaveIsWholeOrAbsent)
     EXPECT_GT(absent, 0);
 }
 
-// All calls of the recovery for one death at each call of the save.
+// Calls of the recovery for a death at each call of the save.
 TEST_P(JournalDeath, DyingAgainInTheRecoveryChangesNothing)
 {
-    const Prepared ready = prepare(GetParam().before);
-    People after = ready.people;
-    note(after, GetParam().save);
     std::mt19937 random(1);
-    for (int call = 1;; ++call) {
-        const std::unique_ptr<SimDisk> first = ready.disk->copy();
-        bool dead = false;
-        {
-            SimSession session(*first);
-            session.station.dieAt(call);
-            (void)session.perform(GetParam().save);
-            dead = session.station.dead();
-        }
-        if (!dead)
+    const int step = m_ready.saves.size() == 1 ? 1 : matrixLength(13, 61, 1);
+    for (int call = 1;; call += step) {
+        const Death first = dieAt(*m_ready.disk, m_ready.saves, call);
+        if (!first.dead)
             break;
-        first->boot += random() % 2; // the machine too
-        for (int sample = 0; sample < 3; ++sample) {
-            const std::unique_ptr<SimDisk> disk = first->copy();
+        first.disk->boot += random() % 2; // the machine too
+        const int most = matrixLength(3, 1, 60);
+        for (int sample = 0; sample < most; ++sample) {
+            const std::unique_ptr<SimDisk> disk = first.disk->copy();
             {
                 SimSession session(*disk);
-                session.station.dieAt(static_cast<int>(random() % 60) + 1);
+                session.station.dieAt(most == 60 ? sample + 1
+                                                 : static_cast<int>(random() % 60) + 1);
                 session.look();
             }
-            ASSERT_EQ(compare(*disk, ready.people, &after), "") << "died at call " << call;
+            ASSERT_EQ(compare(*disk, m_ready.states[first.done], &next(first.done)), "")
+                << "died at call " << call;
         }
     }
 }
 
+// The index file built anew, with the station dying, or its disk filling up, at any call.
+class RebuildDeath : public testing::TestWithParam<bool>
+{
+};
+
+TEST_P(RebuildDeath, NeverAnEmptyOrHalfIndexIsTaken)
+{
+    const Prepared ready = prepare({"", inserts(1, 60, "a text"), {}});
+    for (int call = 1;; ++call) {
+        ASSERT_LT(call, 3000);
+        const std::unique_ptr<SimDisk> disk = ready.disk->copy();
+        Code code = r4failure;
+        bool hit = false;
+        {
+            SimSession session(*disk);
+            if (GetParam())
+                session.station.dieAt(call);
+            else
+                session.station.failAt(call, ErrorKind::NoSpace, true);
+            code4accessMode(session, 1);
+            const Handle table = d4open(session, kPeoplePath);
+            code = table ? d4reindex(table) : r4failure;
+            if (d4close(table) != r4success)
+                code = r4failure;
+            hit = session.station.dead() || session.station.failed();
+        }
+        ASSERT_EQ(compare(*disk, ready.states[0]), "") << "call " << call;
+        SimSession next(*disk);
+        ASSERT_TRUE(next.perform(insertOf(900))) << lastError(next).detail << ", call " << call;
+        if (!hit) {
+            EXPECT_EQ(code, r4success);
+            break;
+        }
+    }
+}
+
+// A number is never given out twice: who took it heard so, or it is free or lost.
+TEST(CounterDeath, ANumberTakenIsNotGivenOutAgain)
+{
+    const std::string path = "/counter.dbf";
+    SimDisk start;
+    SimStation maker(start);
+    ASSERT_TRUE(createTable(maker, counterTable(), {path, "/counter.cdx", {}}).ok());
+    {
+        const SimSession session(start);
+        const Handle table = d4open(session, path);
+        d4appendStartVB(table, 0);
+        d4blank(table);
+        assign(table, "tblname", "people.dbf");
+        f4assignLong(d4field(table, "lastid"), 1000);
+        ASSERT_EQ(d4append(table), r4success);
+    }
+    for (int call = 1;; ++call) {
+        const std::unique_ptr<SimDisk> disk = start.copy();
+        SimSession session(*disk);
+        session.station.dieAt(call);
+        const bool taken = takeIds(session, path, 1) == "1000 1000";
+        const SimSession next(*disk);
+        const std::string later = takeIds(next, path, 1);
+        ASSERT_TRUE(later == "1001 1001" || (!taken && later == "1000 1000")) << later << call;
+        if (!session.station.dead()) {
+            EXPECT_TRUE(taken);
+            break;
+        }
+    }
+}
+
+// While one station saves, another dies in a save and a third finishes that: ours is stored all the
+// same, over what the table then holds.
+TEST(JournalDeathOfAnother, InTheMiddleOfOurSaveAThirdStationFinishesTheirs)
+{
+    const Prepared ready = prepare({"", inserts(1, 8, "a text"), {}});
+    std::mt19937 random(4);
+    const auto number = [&random](unsigned below) {
+        return static_cast<int>(random() % below) + 1;
+    };
+    int whole = 0;
+    for (int sample = 0; sample < 4000; ++sample) {
+        const bool adds = sample % 2 == 0;
+        Save theirs = adds ? insertOf(20) : update(3, "Theirs", "a text");
+        theirs.person.city = "Elsewhere";
+        const Save ours = adds ? insertOf(30) : update(3, "Ours", "b");
+        const std::unique_ptr<SimDisk> disk = ready.disk->copy();
+        SimSession session(*disk);
+        ASSERT_TRUE(session.perform(insertOf(9))); // from here on its journal is open
+        const int begin = number(40);
+        session.station.beforeCall(begin, [&] {
+            SimSession dying(*disk);
+            code4lockAttempts(dying, 0);
+            dying.station.dieAt(number(60));
+            (void)dying.perform(theirs);
+        });
+        session.station.beforeCall(begin + number(20), [&] {
+            SimSession third(*disk);
+            code4lockAttempts(third, 0);
+            third.look();
+        });
+        ASSERT_TRUE(session.perform(ours)) << lastError(session).detail << ", sample " << sample;
+        People after = ready.states[0];
+        note(after, insertOf(9));
+        note(after, ours);
+        People both = after;
+        if (adds)
+            note(both, theirs);
+        bool found = false;
+        ASSERT_EQ(compare(*disk, after, &both, &found), "") << "sample " << sample;
+        whole += found;
+    }
+    EXPECT_GT(whole, 100);
+}
+
 INSTANTIATE_TEST_SUITE_P(Saves, JournalDeath, testing::ValuesIn(cases()),
                          [](const auto &one) { return std::string(one.param.name); });
+INSTANTIATE_TEST_SUITE_P(Ends, RebuildDeath, testing::Bool(), [](const auto &one) {
+    return std::string(one.param ? "Death" : "FullDisk");
+});
 
 } // namespace

@@ -95,7 +95,11 @@ INSTANTIATE_TEST_SUITE_P(Kinds, JournalFaults,
                          testing::Values(Fault{"IoOnce", ErrorKind::Io, false},
                                          Fault{"IoForEver", ErrorKind::Io, true},
                                          Fault{"NoSpaceOnce", ErrorKind::NoSpace, false},
-                                         Fault{"NoSpaceForEver", ErrorKind::NoSpace, true}),
+                                         Fault{"NoSpaceForEver", ErrorKind::NoSpace, true},
+                                         Fault{"RefusedOnce", ErrorKind::ReadOnly, false},
+                                         Fault{"RefusedForEver", ErrorKind::ReadOnly, true},
+                                         Fault{"GoneOnce", ErrorKind::Gone, false},
+                                         Fault{"GoneForEver", ErrorKind::Gone, true}),
                          [](const auto &one) { return std::string(one.param.name); });
 
 } // namespace

@@ -108,7 +108,6 @@ TEST(KeyExpression, EqualSignReachesAsFarAsItsRightSide)
 TEST(KeyExpression, EverythingElseIsRefused)
 {
     for (const char *text : {"",
-                             "MISSING",
                              "NOTES",
                              "UPPER(AMOUNT)",
                              "UPPER(NAME",
@@ -148,6 +147,7 @@ TEST(KeyExpression, EverythingElseIsRefused)
         EXPECT_EQ(parsed.error().kind, ErrorKind::Refused) << text;
         EXPECT_FALSE(parsed.error().detail.empty());
     }
+    EXPECT_EQ(KeyExpression::parse("UPPER(MISSING)", layout).error().kind, ErrorKind::NotFound);
 }
 
 TEST(KeyExpression, DepthAndLengthAreBounded)

@@ -1,16 +1,23 @@
 // Two sessions in one process and two processes must see each other's locks alike.
 #include "engine/Station.h"
 #include "engine/TableFixture.h"
+#include "support/MatrixLength.h"
+
+#include "db/engine/LockedFile.h"
+#include "support/MemoryFile.h"
 
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <csignal>
 #include <future>
 #include <thread>
+#include <vector>
 
 using namespace norvane::engine;
 using namespace enginetest;
 using namespace std::chrono_literals;
+using norvane::test::matrixLength;
 
 namespace
 {
@@ -65,8 +72,60 @@ TEST_F(Locks, AnotherProcessIsKeptOutUntilUnlockOrDeath)
     EXPECT_EQ(station.ask("lock 2"), "0");
     EXPECT_EQ(d4lock(m_table, 2), d4locked);
     station.kill();
-    code4lockAttempts(m_session, 20);
+    code4lockAttempts(m_session, 10); // a tenth of a second at most
     EXPECT_EQ(d4lock(m_table, 2), r4success);
+}
+
+// Stopped, not dead: its row stays locked, and whoever wants it hears so after his attempts.
+TEST_F(Locks, ASleepingHolderKeepsItsRowAndStopsNobodyElse)
+{
+    Station station;
+    ASSERT_NE(station.ask("open " + m_path), "0");
+    station.ask("tag rowid");
+    ASSERT_EQ(station.ask("id 2"), "0");
+    ASSERT_EQ(station.ask("lock 2"), "0");
+    ASSERT_EQ(kill(station.process(), SIGSTOP), 0);
+    code4lockAttempts(m_session, 10);
+    code4lockDelay(m_session, 3);
+    int told = 0;
+    code4waitHandler(m_session, [&told](std::chrono::milliseconds) { ++told; });
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_EQ(d4lock(m_table, 2), d4locked);
+    EXPECT_GE(std::chrono::steady_clock::now() - start, 300ms);
+    EXPECT_GT(told, 2); // a window would have stayed alive
+    EXPECT_EQ(findPerson(m_table, 2), r4success);
+    EXPECT_EQ(d4lock(m_table, 3), r4success);
+    EXPECT_EQ(addPerson(m_table, 70, "Meanwhile"), r4success);
+    ASSERT_EQ(kill(station.process(), SIGCONT), 0);
+    EXPECT_EQ(station.ask("set name Late"), "ok");
+    EXPECT_EQ(station.ask("unlock"), "0");
+    EXPECT_EQ(d4lock(m_table, 2), r4success);
+    ASSERT_EQ(findPerson(m_table, 2), r4success);
+    EXPECT_EQ(text(m_table, "name"), "Late");
+}
+
+// Stopped anywhere, in the middle of a save too: the others are answered, and nothing is damaged.
+TEST_F(Locks, AStationStoppedAnywhereLeavesTheOthersAnswered)
+{
+    code4lockAttempts(m_session, 10);
+    const int stops = matrixLength(20, 5, 400);
+    Station station;
+    station.tell("churn " + m_path + " 1 100000");
+    int refused = 0;
+    for (int i = 0; i < stops; ++i) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(5 + i % 7));
+        ASSERT_EQ(kill(station.process(), SIGSTOP), 0);
+        const Code added = addPerson(m_table, 500 + i, "Meanwhile");
+        EXPECT_TRUE(added == r4success || added == d4locked) << lastError(m_session).detail;
+        const Code found = findPerson(m_table, 1);
+        EXPECT_TRUE(found == r4success || found == d4locked) << found;
+        refused += added == d4locked ? 1 : 0;
+        ASSERT_EQ(kill(station.process(), SIGCONT), 0);
+    }
+    EXPECT_LT(refused, stops);
+    station.kill();
+    d4close(m_table);
+    EXPECT_EQ(findings(m_path), "");
 }
 
 TEST_F(Locks, WaitingLastsAttemptsTimesDelayAndTellsTheProgram)
@@ -180,13 +239,13 @@ TEST_F(Locks, SoleUseAndSharedUseExcludeEachOther)
     EXPECT_NE(station.ask("open " + m_path), "0"); // shared again with the first handle
 }
 
-TEST(LockStress, NoNumberIsGivenTwiceByFourStations)
+TEST(LockStress, NoNumberIsGivenTwice)
 {
     const TempFolder folder;
     const std::string path = folder / "counter.dbf";
     makeTable(path, counterTable());
     const TestSession session;
-    const Handle table = d4open(session, path);
+    Handle table = d4open(session, path);
     d4appendStartVB(table, 0);
     d4blank(table);
     assign(table, "tblname", "people.dbf");
@@ -194,18 +253,24 @@ TEST(LockStress, NoNumberIsGivenTwiceByFourStations)
     ASSERT_EQ(d4append(table), r4success);
     d4close(table);
 
-    constexpr int each = 2000;
-    Station stations[4];
-    for (Station &station : stations)
-        station.tell("ids " + path + ' ' + std::to_string(each));
-    for (Station &station : stations) {
-        const std::string answer = station.answer();
-        EXPECT_NE(answer.find(' '), std::string::npos) << answer;
-        EXPECT_TRUE(answer.find_first_not_of("0123456789 ") == std::string::npos) << answer;
+    const int each = matrixLength(500, 100, 2000);
+    std::int32_t next = 1000;
+    for (const std::size_t count : {2U, 4U, 8U}) {
+        std::vector<Station> stations(count);
+        for (Station &station : stations)
+            station.tell("ids " + path + ' ' + std::to_string(each));
+        for (Station &station : stations) {
+            const std::string answer = station.answer();
+            EXPECT_NE(answer.find(' '), std::string::npos) << answer;
+            EXPECT_TRUE(answer.find_first_not_of("0123456789 ") == std::string::npos) << answer;
+        }
+        // two that got the same number would have stored the same next one
+        next += static_cast<std::int32_t>(count) * each;
+        table = d4open(session, path);
+        ASSERT_EQ(d4seek(table, "people.dbf"), r4success);
+        EXPECT_EQ(f4long(d4field(table, "lastid")), next) << count << " stations";
+        d4close(table);
     }
-    const Handle after = d4open(session, path);
-    ASSERT_EQ(d4seek(after, "people.dbf"), r4success);
-    EXPECT_EQ(f4long(d4field(after, "lastid")), 1000 + 4 * each);
 }
 
 TEST(LockStress, FourStationsChangingATableLeaveItSound)
@@ -254,6 +319,26 @@ TEST(LockStress, RowsThatStayAreFoundAtAnyMomentWhileOthersSplitPages)
         EXPECT_EQ(f4long(d4field(table, "rowid")), id);
     }
     EXPECT_EQ(others.get(), "ok ok ok ");
+}
+
+// On a network folder others see what was written once it was synced under the lock.
+TEST(LockedFileOnANetwork, WhatWasWrittenIsSyncedBeforeTheByteIsSharedOrFree)
+{
+    class NetworkFile : public norvane::test::MemoryFile
+    {
+    public:
+        using MemoryFile::MemoryFile;
+        bool onNetwork() override { return true; }
+    };
+    const auto content = std::make_shared<norvane::test::MemoryContent>();
+    LockedFile file(std::make_shared<NetworkFile>("f", content));
+    ASSERT_TRUE(file.tryLock(7, LockMode::Shared).ok());
+    ASSERT_TRUE(file.tryLock(7, LockMode::Exclusive).ok());
+    ASSERT_TRUE(file.unlock(7, LockMode::Exclusive).ok()); // to shared
+    EXPECT_EQ(content->syncs, 1);
+    ASSERT_EQ(content->locks.size(), 1U);
+    EXPECT_EQ(content->locks.front().mode, LockMode::Shared);
+    EXPECT_FALSE(file.holdsExclusively(7));
 }
 
 TEST(LockStress, ADyingStationLeavesNoLockAndNothingARebuildCannotMend)

@@ -40,8 +40,14 @@ protected:
     }
     std::string textAt(std::uint32_t block)
     {
-        const auto text = m_memo->read(block);
-        return text.ok() ? *text : "(" + text.error().detail + ")";
+        std::string text;
+        const Status read = m_memo->read(block, text);
+        return read.ok() ? text : "(" + read.error().detail + ")";
+    }
+    ErrorKind kindAt(std::uint32_t block)
+    {
+        std::string text;
+        return m_memo->read(block, text).error().kind;
     }
 
     TempFolder m_folder;
@@ -80,6 +86,20 @@ TEST_F(Memos, AHeaderThatLagsOrRunsAwayCostsNoText)
     }
 }
 
+TEST_F(Memos, NoTextIsPlacedWhereTheCutOffOnesStood)
+{
+    const std::uint32_t kept = add({"first text"})[0];
+    const std::vector<std::uint32_t> lost = add({"second text", std::string(500, 't')});
+    std::filesystem::resize_file(m_path, lost[1] * 64);
+    const std::uint32_t fresh = add({std::string(1000, 'n')})[0];
+    EXPECT_GT(fresh, lost[1] + 7);
+    EXPECT_EQ(textAt(kept), "first text");
+    EXPECT_EQ(textAt(lost[0]), "second text");
+    EXPECT_EQ(kindAt(lost[1]), ErrorKind::Damaged);
+    EXPECT_EQ(textAt(fresh), std::string(1000, 'n'));
+    EXPECT_EQ(m_memo->headerProblem().value(), "");
+}
+
 TEST_F(Memos, AFileThatEndsBehindItsLastTextIsContinued)
 {
     const std::uint32_t first = add({"first text"})[0];
@@ -94,15 +114,15 @@ TEST_F(Memos, PointersToNoTextAreDamage)
 {
     add({"a text"});
     for (const std::uint32_t block : {0U, 7U, 9U, 1000U, 0x7FFFFFFFU, 0xFFFFFFFFU})
-        EXPECT_EQ(m_memo->read(block).error().kind, ErrorKind::Damaged) << block;
+        EXPECT_EQ(kindAt(block), ErrorKind::Damaged) << block;
     Bytes bytes = readFile(m_path);
     putBe32(&bytes[516], 0xFFFFFFFF); // a length beyond the file
     writeFile(m_path, bytes);
-    EXPECT_EQ(m_memo->read(8).error().kind, ErrorKind::Damaged);
-    EXPECT_EQ(m_memo->extentOf(8).error().kind, ErrorKind::Damaged);
+    EXPECT_EQ(kindAt(8), ErrorKind::Damaged);
+    EXPECT_EQ(m_memo->extentOf(8, bytes.size()).error().kind, ErrorKind::Damaged);
     putBe32(&bytes[512], 0); // a picture
     writeFile(m_path, bytes);
-    EXPECT_EQ(m_memo->read(8).error().kind, ErrorKind::Damaged);
+    EXPECT_EQ(kindAt(8), ErrorKind::Damaged);
 }
 
 } // namespace

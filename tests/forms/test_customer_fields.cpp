@@ -5,7 +5,9 @@
 #include "common/form/FieldBinding.h"
 #include "common/ui/Grid.h"
 
+#include <QAbstractButton>
 #include <QComboBox>
+#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -93,6 +95,53 @@ TEST_F(CustomerForm, QuickEntriesAreOfferedAndNotForced)
     type("txtCoName", "Acme");
     click("cmdApply");
     EXPECT_EQ(stored(1000, "custom1"), "blue"); // as typed
+}
+
+TEST_F(CustomerForm, AListEditedBesideItsFieldComesBackWithWhatWasChosen)
+{
+    const struct {
+        const char *button;
+        const char *combo;
+        qint32 type;
+    } lists[] = {{"cboCatCategory", "cboCategory", 1},
+                 {"cmdCatStates", "cboStates", 3},
+                 {"cboCatCountry", "cboCountry", 4},
+                 {"cmdCust1Cat", "txtCust1", 200},
+                 {"cmdCust2Cat", "txtCust2", 201}};
+    qint32 added = 0;
+    board.onEditCategory = [&](qint32 type) { added = database.addListItem(type, "aaa"); };
+    for (const auto &list : lists)
+        database.addListItem(list.type, "Chosen");
+    openNew();
+    for (const auto &list : lists) {
+        auto *combo = find<QComboBox>(list.combo);
+        combo->setCurrentText(combo->isEditable() ? "as typed" : "Chosen");
+        const QString before = combo->currentText();
+        board.forget();
+        find<QAbstractButton>(list.button)->click();
+        EXPECT_EQ(board.calls(), QStringList{QStringLiteral("EditCategory %1").arg(list.type)});
+        EXPECT_EQ(combo->currentText(), before);
+        EXPECT_EQ(combo->itemData(combo->findText("aaa")).toInt(), added);
+        EXPECT_TRUE(combo->hasFocus());
+    }
+
+    // An item deleted there is not chosen any more; a list that has gone leaves the choice alone.
+    auto *combo = find<QComboBox>("cboStates");
+    const qint32 chosen = combo->currentData().toInt();
+    const QString path = gDB.CategoryTable();
+    board.onEditCategory = [&](qint32) { QFile::rename(path, path + u".away"); };
+    person.expect(u"Unable to open: " + path);
+    find<QAbstractButton>("cmdCatStates")->click();
+    EXPECT_EQ(combo->currentData().toInt(), chosen);
+    QFile::rename(path + u".away", path);
+    board.onEditCategory = [&](qint32) { gDB.DeleteRecord(chosen, path); };
+    find<QAbstractButton>("cmdCatStates")->click();
+    EXPECT_EQ(combo->currentText(), "");
+    EXPECT_EQ(combo->findText("Chosen"), -1);
+    type("txtCoName", "Acme");
+    click("cmdApply");
+    EXPECT_EQ(stored(1000, "custom1"), "as typed");
+    EXPECT_FALSE(find<QAbstractButton>("cmdCust1Cat")->isEnabled());
 }
 
 TEST_F(CustomerForm, NotesKeepTheirLinesAndCharacters)

@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QToolButton>
 
 namespace
 {
@@ -37,6 +38,9 @@ TEST_F(CustomerForm, EveryControlThatChangesTheRecordIsTagged)
     EXPECT_EQ(open.join(u' '), QString());
     for (const char *button : {"cmdDelete", "OKButton", "cmdApply", "cmdDTStamp_Notes"})
         EXPECT_EQ(controlTag(find<QPushButton>(button)), "E") << button;
+    for (const char *button :
+         {"cboCatCategory", "cmdCatStates", "cboCatCountry", "cmdCust1Cat", "cmdCust2Cat"})
+        EXPECT_EQ(controlTag(find<QToolButton>(button)), "E") << button;
     for (const char *button : {"CancelButton", "cmdPrint", "cmdLabel", "cmdRefresh", "lblEdit"})
         EXPECT_EQ(controlTag(find<QPushButton>(button)), "") << button;
     person.expect("Do you wish to discard", Answer::Yes);

@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QToolButton>
 
 TEST_F(CustomerForm, PreviewShowsEveryField)
 {
@@ -91,11 +92,14 @@ TEST_F(CustomerForm, PreviewAndLabelOpenAsWindows)
 TEST_F(CustomerForm, MailKeepsItsAddressUnusable)
 {
     open(database.addCustomer({{"company", "Acme"}, {"emailname", "a@x.com"}}));
-    form->FormEmail();
+    click("cmdEmail");
     ASSERT_EQ(board.mails().size(), 1);
     EXPECT_EQ(board.mails()[0].to, "a@x.com-removethis");
     EXPECT_EQ(board.mails()[0].subject, "<<Verify Email Address and Enter Subject>>");
     EXPECT_EQ(board.mails()[0].body, form->FormContent());
+    find<QToolButton>("cmdSendEmail")->click(); // the field's own address is for use
+    find<QToolButton>("cmdSendEmail2")->click();
+    EXPECT_EQ(machine.opened(), (QStringList{"mailto:a@x.com", "mailto:"}));
 }
 
 TEST_F(CustomerForm, MailingLabelLeavesOutWhatIsEmpty)

@@ -4,6 +4,7 @@
 #include "search/frmLookupCustomer.h"
 #include "support/DialogDriver.h"
 #include "support/FakeHost.h"
+#include "support/PdfPrinter.h"
 #include "support/RecordingSwitchboard.h"
 #include "support/ScriptedPrompts.h"
 #include "support/TempDatabase.h"
@@ -78,6 +79,16 @@ protected:
 };
 
 } // namespace
+
+TEST_F(CustomerList, PrintsWhatItShowsUnderItsCaption)
+{
+    const PdfPrinter printer;
+    addFour();
+    search({}, 0);
+    QTest::keyClick(list.get(), Qt::Key_P, Qt::ControlModifier);
+    EXPECT_EQ(printer.titles(), QStringList(list->windowTitle()));
+    EXPECT_TRUE(printer.pages().value(0).contains("Smith, Ann"));
+}
 
 TEST_F(CustomerList, EachTagSearchFindsWhatStartsWithTheTextInAnyCase)
 {

@@ -61,7 +61,10 @@ constexpr char needsText[] =
 TEST_F(LookupDialog, OffersTheSearchesInOrderWithTheLabelsOfTheDatabase)
 {
     gDB.SetParamValue(clsDB::MakeCustomFieldParamName("nvncust.dbf", "custno"), "Client Code");
+    gDB.SetParamValue(clsDB::MakeCustomFieldParamName("nvncust.dbf", "company"),
+                      QString(5000, 'W'));
     open();
+    EXPECT_LT(dialog->minimumSizeHint().width(), 1024);
     QStringList texts;
     QList<qint32> types;
     for (int row = 0; row < cboType->count(); ++row) {
@@ -69,8 +72,8 @@ TEST_F(LookupDialog, OffersTheSearchesInOrderWithTheLabelsOfTheDatabase)
         types += cboType->itemData(row).toInt();
     }
     EXPECT_EQ(texts, QStringList({"Primary Contact's Last Name starts with or is:",
-                                  "Company starts with or is:", "Client Code starts with or is:",
-                                  "Work Phone starts with or is:",
+                                  QString(40, 'W') + "... starts with or is:",
+                                  "Client Code starts with or is:", "Work Phone starts with or is:",
                                   "Phone/Address/City/Zip contains:", "Customer ID is:"}));
     EXPECT_EQ(types, QList<qint32>({1, 2, 3, 4, 6, 5}));
     EXPECT_EQ(dialog->findChild<QLabel *>("lblMsg")->text(),

@@ -11,6 +11,7 @@
 #include "support/DialogDriver.h"
 
 #include <QComboBox>
+#include <QFile>
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -43,6 +44,7 @@ TEST_F(MainWindow, WithoutADatabaseOffersNewAndOpenOnly)
     EXPECT_FALSE(enabled("mnuFileClose"));
     EXPECT_FALSE(enabled("mnuDisplayDataFolder"));
     EXPECT_FALSE(enabled("mnuViewNewCustomer"));
+    EXPECT_FALSE(find<QAction>("mnuFileChangePWD")->isVisible());
     EXPECT_FALSE(menuShown("mnuView"));
     EXPECT_FALSE(menuShown("mnuWindow"));
     EXPECT_FALSE(find<QToolBar>("TB")->isVisible());
@@ -64,6 +66,7 @@ TEST_F(MainWindow, WithADatabaseOffersItsCommands)
     EXPECT_FALSE(enabled("mnuFileOpen"));
     EXPECT_TRUE(enabled("mnuFileClose"));
     EXPECT_TRUE(enabled("mnuDisplayDataFolder"));
+    EXPECT_TRUE(enabled("mnuFileChangePWD") && find<QAction>("mnuFileChangePWD")->isVisible());
     EXPECT_TRUE(menuShown("mnuView"));
     EXPECT_TRUE(menuShown("mnuWindow"));
     EXPECT_TRUE(find<QToolBar>("TB")->isVisible());
@@ -73,6 +76,24 @@ TEST_F(MainWindow, WithADatabaseOffersItsCommands)
                            "User: FRONTDESK\\" + gDB.LoginName() + "  ", "Multi-User version "}));
     choose("mnuDisplayDataFolder");
     EXPECT_EQ(machine.opened(), QStringList(gDB.DBPath()));
+}
+
+TEST_F(MainWindow, AReadOnlyDatabaseShowsItAndStartsNoRecord)
+{
+    openWithDatabase();
+    QFile table(gDB.ReportTable());
+    ASSERT_TRUE(table.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    table.close();
+    person.expect("open for reading only");
+    person.expect("Unable to open: ");
+    gDB.OpenTable(gDB.ReportTable());
+    EXPECT_EQ(statusTexts().first(), "Database Location: " + gDB.DBPath() + " (read-only)");
+    person.expect("Nothing was changed: this database is open for reading only");
+    choose("NEWCUST");
+    EXPECT_EQ(openTags(), QStringList());
+    gDB.CloseDB();
+    main->SetUI();
+    EXPECT_FALSE(statusTexts().first().contains("read-only"));
 }
 
 TEST_F(MainWindow, ShowingACustomerTwiceRaisesItsWindow)
@@ -133,17 +154,6 @@ TEST_F(MainWindow, ANewWindowHasTheKeyboard)
     ASSERT_TRUE(QTest::qWaitForWindowActive(main.get()));
     ASSERT_NE(QApplication::focusWidget(), nullptr);
     EXPECT_EQ(QApplication::focusWidget()->objectName(), "lvCustomers");
-}
-
-TEST_F(MainWindow, NewCustomerWantsItsRight)
-{
-    openWithDatabase();
-    database->addUser("reader", QString(30, u'0'));
-    database->loginAs("reader", "reader");
-    main->SetUI();
-    person.expectText("Sorry, you are not permitted to perform this action.");
-    choose("NEWCUST");
-    EXPECT_TRUE(openForms().isEmpty());
 }
 
 TEST_F(MainWindow, LookupOpensAListAndFromThereTheCustomer)
@@ -225,6 +235,9 @@ TEST_F(MainWindow, NotifyReachesTheCustomersWindowByItsTag)
 TEST_F(MainWindow, HelpCommands)
 {
     openWithDatabase();
+    choose("mnuHelpFAQs");
+    EXPECT_EQ(machine.opened(), QStringList(app::website() + "/products/norvane/faqs/"));
+
     person.expectText("BACKING UP, COPYING OR MOVING YOUR DATABASE");
     choose("mnuHelpBackup");
     EXPECT_TRUE(person.texts().last().contains(gDB.DBPath()));
@@ -233,10 +246,10 @@ TEST_F(MainWindow, HelpCommands)
     const QString question = "Support for Norvane can be obtained online at";
     person.expect(question, Answer::No).buttons({Answer::Yes, Answer::No, Answer::Cancel});
     choose("mnuHelpSupport");
-    EXPECT_TRUE(machine.opened().isEmpty());
+    EXPECT_EQ(machine.opened().size(), 1);
     person.expect(question, Answer::Yes);
     choose("mnuHelpSupport");
-    EXPECT_EQ(machine.opened(), QStringList(app::website()));
+    EXPECT_EQ(machine.opened().last(), app::website());
 
     const DialogDriver driver([](QWidget *about) {
         EXPECT_EQ(about->objectName(), "frmSplash");
@@ -253,13 +266,24 @@ TEST_F(MainWindow, BackupAdviceNamesTheFolderItIsFor)
     EXPECT_TRUE(main->BackupMsg("/some/folder").contains("\n/some/folder\n"));
 }
 
-TEST_F(MainWindow, MailGoesToTheMailProgramWithEverythingEscaped)
+TEST_F(MainWindow, MailGoesTheWayThatWasChosen)
 {
-    openWithoutDatabase();
-    main->SendMail("ann@mills.example", "Lamps & more?", "line one\nline two");
-    ASSERT_EQ(machine.opened().size(), 1);
-    EXPECT_EQ(machine.opened().first(), "mailto:ann@mills.example?subject=Lamps%20%26%20more?"
-                                        "&body=line%20one%0Aline%20two");
+    openWithDatabase();
+    {
+        const DialogDriver driver([](QWidget *options) {
+            EXPECT_EQ(options->objectName(), "frmOptions");
+            QTest::keyClick(options, Qt::Key_Escape);
+        });
+        choose("ADEMAILOPT");
+    }
+    EXPECT_EQ(main->GetEmailHandler(), 0);
+    main->SetEmailHandler(1);
+    EXPECT_EQ(main->GetEmailHandler(), 1);
+    machine.setAccepts(false);
+    person.expectText("Unable to initiate your email software!");
+    EXPECT_FALSE(main->SendMail("ann@mills.example", "Lamps", "text"));
+    person.expectText("Unable to initiate Microsoft Outlook!");
+    EXPECT_FALSE(main->SendMailOutlook("ann@mills.example", "Lamps", "text"));
 }
 
 #include "test_main_window.moc"

@@ -75,6 +75,10 @@ TEST(StartupPosition, WhatIsNotOnTheScreenStartsMaximised)
     EXPECT_FALSE(startsMaximised());
     SetPrefStr("width", "wide");
     EXPECT_TRUE(startsMaximised());
+    savePlace(10, 10, 2147483647, 2147483647, 0);
+    QWidget window;
+    clsWndStartupPos::RestorePosition(&window);
+    EXPECT_EQ(window.size(), screen);
 }
 
 TEST(StartupPosition, AMinimisedWindowKeepsThePlaceSavedBefore)

@@ -19,6 +19,10 @@ FakeHost::FakeHost()
         m_launched.push_back({program, arguments});
         return m_accepts;
     };
+    fake.handOver = [this](const QString &program, const QStringList &arguments, int) {
+        m_launched.push_back({program, arguments});
+        return m_accepts;
+    };
 }
 
 FakeHost::~FakeHost()

@@ -14,6 +14,30 @@ void RecordingSwitchboard::ShowCustomer(qint32 rowid, bool bEdit)
                        .arg(bEdit ? QLatin1String("true") : QLatin1String("false")));
 }
 
+void RecordingSwitchboard::ShowPS(qint32 rowid, qint32 custid, bool bEdit)
+{
+    m_calls.append(QStringLiteral("ShowPS %1 %2 %3")
+                       .arg(rowid)
+                       .arg(custid)
+                       .arg(bEdit ? QLatin1String("true") : QLatin1String("false")));
+}
+
+void RecordingSwitchboard::ShowIssue(qint32 rowid, qint32 custid, bool bEdit, qint32 templateId)
+{
+    m_calls.append(QStringLiteral("ShowIssue %1 %2 %3 %4")
+                       .arg(rowid)
+                       .arg(custid)
+                       .arg(bEdit ? QLatin1String("true") : QLatin1String("false"))
+                       .arg(templateId));
+}
+
+bool RecordingSwitchboard::GetIssueTemplateID(qint32 &id)
+{
+    m_calls.append(QStringLiteral("GetIssueTemplateID"));
+    id = chosenTemplate.value_or(id);
+    return chosenTemplate.has_value();
+}
+
 void RecordingSwitchboard::NotifyCustomer(qint32 custid, int what, qint32 id)
 {
     m_calls.append(QStringLiteral("NotifyCustomer %1 %2 %3").arg(custid).arg(what).arg(id));
@@ -36,9 +60,16 @@ void RecordingSwitchboard::EditCategory(qint32 type)
         onEditCategory(type);
 }
 
-void RecordingSwitchboard::SendMail(const QString &to, const QString &subject, const QString &body)
+QString RecordingSwitchboard::GetShortDateFromPopupCalendar(const QString &start)
+{
+    m_calls.append(QLatin1String("GetShortDateFromPopupCalendar ") + start);
+    return pickedDate;
+}
+
+bool RecordingSwitchboard::SendMail(const QString &to, const QString &subject, const QString &body)
 {
     m_mails.append({to, subject, body});
+    return true;
 }
 
 void RecordingSwitchboard::showChild(QWidget *form)

@@ -11,6 +11,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <optional>
 
 class RecordingSwitchboard : public Switchboard
 {
@@ -26,21 +27,30 @@ public:
     RecordingSwitchboard(const RecordingSwitchboard &) = delete;
     RecordingSwitchboard &operator=(const RecordingSwitchboard &) = delete;
 
-    // "ShowCustomer 42 false", "NotifyCustomer 42 1 7", "LookupCustomer", "EditCategory 3",
-    // "showHelp 1300", in the order called.
+    // "ShowCustomer 42 false", "ShowPS -1 42 true", "ShowIssue -1 42 true -1",
+    // "NotifyCustomer 42 1 7", "LookupCustomer", "EditCategory 3", "showHelp 1300", in the order
+    // called.
     const QStringList &calls() const { return m_calls; }
     void forget() { m_calls.clear(); }
     const QList<Mail> &mails() const { return m_mails; }
     const QList<QPointer<QWidget>> &children() const { return m_children; }
     // Stands for what a list editor does while it is open.
     std::function<void(qint32 type)> onEditCategory;
+    // The template that is chosen for every new issue; nothing: the choice is cancelled.
+    std::optional<qint32> chosenTemplate;
+    // The date that is picked from every calendar.
+    QString pickedDate;
 
     void ShowCustomer(qint32 rowid, bool bEdit) override;
+    void ShowPS(qint32 rowid, qint32 custid, bool bEdit) override;
+    void ShowIssue(qint32 rowid, qint32 custid, bool bEdit, qint32 templateId) override;
+    bool GetIssueTemplateID(qint32 &id) override;
     void NotifyCustomer(qint32 custid, int what, qint32 id) override;
     void LookupCustomer() override;
     void NewCustomer() override;
     void EditCategory(qint32 type) override;
-    void SendMail(const QString &to, const QString &subject, const QString &body) override;
+    QString GetShortDateFromPopupCalendar(const QString &start) override;
+    bool SendMail(const QString &to, const QString &subject, const QString &body) override;
     void showChild(QWidget *form) override;
     void showHelp(int topic) override;
 

@@ -53,5 +53,9 @@ void prepareTestEnvironment()
         forbid("program", program);
         return false;
     };
+    host().handOver = [](const QString &program, const QStringList &, int) {
+        forbid("program", program);
+        return false;
+    };
     forbidPrompts();
 }

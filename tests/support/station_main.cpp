@@ -4,6 +4,7 @@
 //   setmark TABLE ROWID             clearmark TABLE ROWID
 //   lockrow TABLE ROWID             lockcounter TABLE        unlock
 //   save ROWID FIELD VALUE          delete TABLE ROWID       read TABLE ROWID FIELD
+//   saverow RECTYPE TABLE ROWID FIELD VALUE
 //   nextid TABLE [COUNT]            quit
 // TABLE is a data file's name, ROWID of save is a customer's.
 #include "common/base/clsSystem.h"
@@ -37,7 +38,7 @@ private:
     QString open(const Words &words);
     QString mark(const Words &words);
     QString lock(const Words &words);
-    QString save(const Words &words);
+    QString save(const QString &recType, const QString &tableFile, const Words &words);
     QString read(const Words &words);
     QString nextIds(const Words &words);
     QString done(bool ok, const QString &value = {});
@@ -88,7 +89,9 @@ QString Workstation::run(const Words &words)
         return done(true);
     }
     if (command == u"save")
-        return save(words);
+        return save(QStringLiteral("_customer"), QStringLiteral("nvncust.dbf"), words.mid(1));
+    if (command == u"saverow")
+        return save(words.at(1), words.at(2), words.mid(3));
     if (command == u"delete")
         return done(m_db.DeleteRecord(words.at(2).toInt(), path(words.at(1))));
     if (command == u"read")
@@ -132,13 +135,12 @@ QString Workstation::lock(const Words &words)
     return done(found && norvane::engine::d4lock(table, norvane::engine::d4recNo(table)) == 0);
 }
 
-QString Workstation::save(const Words &words)
+QString Workstation::save(const QString &recType, const QString &tableFile, const Words &words)
 {
-    RecColl record(m_db.CustomerTable(), QStringLiteral("nvncust.dbf"), words.at(1).toInt(),
-                   QStringLiteral("_customer"));
+    RecColl record(path(tableFile), tableFile, words.at(0).toInt(), recType);
     if (!m_db.ReadRecord(record))
         return done(false);
-    record.setExisting(words.at(2), Words(words.mid(3)).join(u' '));
+    record.setExisting(words.at(1), Words(words.mid(2)).join(u' '));
     return done(m_db.SaveRecord(record));
 }
 

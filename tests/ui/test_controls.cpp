@@ -1,5 +1,6 @@
 // Helpers that take a control, and the read-only state of a form.
 #include "common/ui/Controls.h"
+#include "support/ScriptedPrompts.h"
 
 #include <gtest/gtest.h>
 
@@ -7,6 +8,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScopeGuard>
@@ -59,6 +61,42 @@ TEST(ComboTest, AnItemGoesByItsNumber)
     combo.setEditable(true);
     combo.setEditText(QStringLiteral("Golden"));
     EXPECT_EQ(cboGetItemID(&combo), -1);
+}
+
+TEST(ListBoxTest, ItemsGoByTheirNumbers)
+{
+    ScriptedPrompts person;
+    QListWidget chosen;
+    QListWidget offered;
+    QComboBox combo;
+    const char *names[] = {"One", "Two", "Three"};
+    for (int at = 0; at < 3; ++at) {
+        lbAddItem(&offered, QLatin1String(names[at]), 1001 + at);
+        cboAddItem(&combo, QLatin1String(names[at]), 1001 + at);
+    }
+    lbAddItem(&chosen, QStringLiteral("Two"), 1002);
+    EXPECT_EQ(lbGetPosForID(&offered, 1003), 2);
+    EXPECT_EQ(lbGetPosForID(&offered, 7), -1);
+    EXPECT_EQ(lbItemID(&offered, 3), -1);
+    LB2LBRemoveItems(&chosen, &offered);
+    LB2LBRemoveItems(&chosen, &combo);
+    EXPECT_EQ(offered.count() + combo.count(), 4);
+    EXPECT_EQ(lbGetPosForID(&offered, 1002) + combo.findData(1002), -2);
+
+    offered.setCurrentRow(0);
+    LBSwapItems(&offered, 0, 1);
+    EXPECT_EQ(lbItemID(&offered, 0), 1003);
+    EXPECT_EQ(offered.item(1)->text(), QStringLiteral("One"));
+    EXPECT_EQ(offered.currentRow(), 1); // the item that was current
+    LBSwapItems(&offered, 1, 2);
+    LBSwapItems(&offered, -1, 0);
+    EXPECT_EQ(offered.currentRow(), 1);
+    LBRemoveCurSelected(&offered);
+    EXPECT_EQ(lbItemID(&offered, 0), 1003);
+    offered.setCurrentRow(-1);
+    person.expect(QStringLiteral("Please select a listbox item first!"));
+    LBRemoveCurSelected(&offered);
+    EXPECT_EQ(offered.count(), 1);
 }
 
 TEST(ControlsTest, TextReplacesTheSelectionAndStaysUndoable)

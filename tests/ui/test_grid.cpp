@@ -1,5 +1,6 @@
 // The text grid: its matrix, editing by keyboard, the clipboard, and its delimited text.
 #include "common/ui/Grid.h"
+#include "common/ui/GridFind.h"
 
 #include <gtest/gtest.h>
 
@@ -186,6 +187,53 @@ TEST_F(GridTest, PastesFromASpreadsheetAndDropsWhatLiesBeyond)
     goTo(1, 1);
     m_grid->paste();
     EXPECT_EQ(m_grid->text(1, 1), QStringLiteral("one cell"));
+}
+
+TEST_F(GridTest, ALockedColumnStaysAsItIsAndRowsKeepWhatTheyStandFor)
+{
+    m_grid->setText(2, 1, QStringLiteral("Ann"));
+    m_grid->setRowData(2, 1000);
+    m_grid->setColumnEditable(1, false);
+    QApplication::clipboard()->setText(QStringLiteral("x\ty"));
+    goTo(2, 1);
+    m_grid->paste();
+    QTest::keyClick(m_grid, Qt::Key_Delete);
+    QTest::keyClicks(m_grid, QStringLiteral("z"));
+    EXPECT_EQ(m_grid->text(2, 1), QStringLiteral("Ann"));
+    EXPECT_EQ(m_grid->text(2, 2), QStringLiteral("y"));
+    EXPECT_EQ(m_grid->rowData(2).toInt(), 1000);
+    EXPECT_FALSE(m_grid->rowData(51).isValid());
+    m_grid->setColumnEditable(1, true);
+    QTest::keyClicks(m_grid, QStringLiteral("z"));
+    m_grid->finishEditing();
+    EXPECT_EQ(m_grid->text(2, 1), QStringLiteral("z"));
+}
+
+TEST_F(GridTest, FindsATextInEitherDirectionButNotRound)
+{
+    m_grid->setText(3, 2, QStringLiteral("Acme Ltd "));
+    m_grid->setText(7, 1, QStringLiteral("acme"));
+    const struct {
+        frmFind::Request request;
+        int from;
+        int found; // 0: not found
+    } searches[] = {
+        {{QStringLiteral("ACME")}, 1, 3},
+        {{QStringLiteral("ACME")}, 3, 7},
+        {{QStringLiteral("ACME")}, 7, 0},
+        {{QStringLiteral("acme"), false, true}, 0, 7},
+        {{QStringLiteral("Ltd"), true}, 0, 0},
+        {{QStringLiteral("acme ltd"), true}, 0, 3},
+        {{QStringLiteral("acme"), false, false, true}, 7, 3},
+        {{QStringLiteral("acme"), false, false, true}, 3, 0},
+    };
+    for (const auto &search : searches) {
+        goTo(50, 1);
+        EXPECT_EQ(GridFind(m_grid, search.request, search.from), search.found > 0);
+        EXPECT_EQ(current().x(), search.found > 0 ? search.found : 50);
+    }
+    GridSelectRow(m_grid, 51);
+    EXPECT_EQ(current().x(), 50);
 }
 
 TEST_F(GridTest, ALockedGridRefusesEveryChangeButCanBeCopied)

@@ -1,12 +1,16 @@
 // The list of the screens: keys, selection, sorting, and what it does with very many rows.
 #include "common/ui/ListView.h"
+#include "support/FakeHost.h"
 
 #include <gtest/gtest.h>
 
 #include <QClipboard>
+#include <QDir>
 #include <QGuiApplication>
 #include <QHeaderView>
+#include <QLineEdit>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
 
 namespace
@@ -197,6 +201,79 @@ TEST_F(ListViewTest, HiddenColumnsStayHiddenAndWidthsAreGivenBack)
     EXPECT_TRUE(m_list.isColumnHidden(2));
     EXPECT_EQ(m_list.columns()[0].width, 222 * 96 / m_list.logicalDpiX());
     EXPECT_EQ(m_list.columns()[2].width, 0);
+}
+
+TEST_F(ListViewTest, OnlyLabelsAreTypedOverAndTheStoreDecidesWhatTheyBecome)
+{
+    add(1, QStringLiteral("old"), QStringLiteral("date"));
+    QString stored;
+    const auto store = [&](const QString &at, const QString &text) -> std::optional<QString> {
+        stored = at + u'=' + text;
+        return text == u"refused" ? std::nullopt : std::optional(text.toUpper());
+    };
+    const auto edit = [this](const QString &text) {
+        EXPECT_TRUE(m_list.editLabel(key(1)));
+        auto *box = m_list.findChild<QLineEdit *>();
+        EXPECT_EQ(box->selectedText(), m_list.itemText(0, 0));
+        QTest::keyClicks(box, text);
+        m_list.finishEditing();
+        QTest::qWait(0);
+    };
+    EXPECT_FALSE(m_list.editLabel(key(1))) << "not before it is allowed";
+    m_list.setLabelEditing(store, 8);
+    EXPECT_FALSE(m_list.editLabel(key(2)));
+    edit(QStringLiteral("much longer"));
+    EXPECT_EQ(stored, QStringLiteral("N1=much lon"));
+    EXPECT_EQ(m_list.itemText(0, 0), QStringLiteral("MUCH LON"));
+    edit(QStringLiteral("refused"));
+    EXPECT_EQ(stored, QStringLiteral("N1=refused"));
+    EXPECT_EQ(m_list.itemText(0, 0), QStringLiteral("MUCH LON"));
+    EXPECT_FALSE(m_list.model()->flags(m_list.model()->index(0, 1)) & Qt::ItemIsEditable);
+
+    // The row may go while the store asks the person something.
+    m_list.setLabelEditing([this](const QString &at, const QString &text) {
+        m_list.removeItem(at);
+        return std::optional(text);
+    });
+    edit(QStringLiteral("gone"));
+    EXPECT_EQ(m_list.itemCount(), 0);
+    m_list.setLabelEditing(nullptr);
+    add(1, QStringLiteral("old"));
+    EXPECT_FALSE(m_list.editLabel(key(1)));
+}
+
+TEST_F(ListViewTest, FilesAreListedAsTheyAreOnTheDisk)
+{
+    const FakeHost machine;
+    const QTemporaryDir dir;
+    const QDir folder(dir.path());
+    const auto write = [&folder](const QString &name, qint64 size) {
+        QFile file(folder.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.resize(size));
+        const QDateTime at(QDate(2004, 3, 14), QTime(15, 5, 9), Qt::LocalTime);
+        ASSERT_TRUE(file.setFileTime(at, QFileDevice::FileModificationTime));
+    };
+    write(QStringLiteral("Offer \u00c9t\u00e9.TXT"), 0);
+    write(QStringLiteral("big.pdf"), 1024 * 1234);
+    write(QStringLiteral(".hidden"), 1025);
+    ASSERT_TRUE(folder.mkdir(QStringLiteral("Inside")));
+    LvGetFileList(&m_list, dir.path());
+    EXPECT_EQ(names(),
+              (QStringList{QStringLiteral(".hidden"), QStringLiteral("big.pdf"),
+                           QStringLiteral("Inside"), QStringLiteral("Offer \u00c9t\u00e9.TXT")}));
+    EXPECT_EQ(m_list.itemText(0, 1), QStringLiteral("1 KB"));
+    EXPECT_EQ(m_list.itemText(1, 1), QStringLiteral("1,234 KB"));
+    EXPECT_EQ(m_list.itemText(3, 1), QStringLiteral("1 KB"));
+    EXPECT_EQ(m_list.itemText(3, 3), QStringLiteral("3/14/2004 3:05 PM"));
+    EXPECT_EQ(m_list.itemText(1, 2), m_list.itemText(1, 2).toLower());
+    EXPECT_TRUE(m_list.itemText(1, 2).contains(QStringLiteral("pdf")));
+    EXPECT_TRUE(LvSelectItemByText(&m_list, QStringLiteral("OFFER \u00e9T\u00c9.txt")));
+    EXPECT_FALSE(machine.isBusy());
+    LvGetFileList(&m_list, folder.filePath(QStringLiteral("nowhere")));
+    EXPECT_EQ(m_list.itemCount(), 0);
+    LvGetFileList(&m_list, dir.path());
+    LvGetFileList(&m_list, {});
+    EXPECT_EQ(m_list.itemCount(), 0);
 }
 
 TEST_F(ListViewTest, AnEmptyListSaysWhy)

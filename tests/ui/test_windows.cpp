@@ -1,13 +1,16 @@
 // The registry of open windows, and the message, progress and preview windows.
 #include "common/base/AppInfo.h"
 #include "common/ui/FormWindow.h"
+#include "common/ui/frmFind.h"
 #include "common/ui/frmMessage.h"
 #include "common/ui/frmProgress.h"
 #include "common/ui/frmRichEdit.h"
 #include "common/ui/Switchboard.h"
 
 #include "support/DialogDriver.h"
+#include "support/PdfPrinter.h"
 #include "support/RecordingSwitchboard.h"
+#include "support/ScriptedPrompts.h"
 
 #include <gtest/gtest.h>
 
@@ -195,6 +198,51 @@ TEST(MessageTest, AVeryLongTextStaysOnTheScreenAndCannotBeTypedOver)
     EXPECT_EQ(box->toPlainText(), before);
     QTest::keyClick(&form, Qt::Key_Escape);
     EXPECT_FALSE(form.isVisible());
+}
+
+TEST(MessageTest, PrintsSavesAndSearchesItsText)
+{
+    const PdfPrinter printer;
+    ScriptedPrompts person;
+    frmMessage form;
+    form.Init(QStringLiteral("alpha beta\nAlphabet alpha"), prompts::Kind::Information, 0);
+    form.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+    QTest::keyClick(&form, Qt::Key_P, Qt::ControlModifier);
+    EXPECT_TRUE(printer.pages().value(0).contains(QStringLiteral("Alphabet alpha")));
+    person.expectSaveFile(QStringLiteral("Save As"), QString());
+    QTest::keyClick(&form, Qt::Key_S, Qt::ControlModifier);
+    person.expect(QStringLiteral("EmailMsg"));
+    clickButton(&form, QStringLiteral("cmdEmail"));
+
+    QTest::keyClick(&form, Qt::Key_F, Qt::ControlModifier);
+    auto *find = form.findChild<frmFind *>();
+    ASSERT_NE(find, nullptr);
+    const auto *box = form.findChild<QPlainTextEdit *>(QStringLiteral("txtMsg"));
+    const auto next = [&] {
+        clickButton(find, QStringLiteral("OKButton"));
+        return box->textCursor().selectionStart();
+    };
+    EXPECT_FALSE(find->findChild<QPushButton *>(QStringLiteral("OKButton"))->isEnabled());
+    QTest::keyClicks(find->findChild<QLineEdit *>(QStringLiteral("textFind")),
+                     QStringLiteral("alpha"));
+    EXPECT_EQ(next(), 0);
+    EXPECT_EQ(next(), 11); // in "Alphabet"
+    clickButton(find, QStringLiteral("optDirectionUp"));
+    EXPECT_EQ(next(), 0);
+    clickButton(find, QStringLiteral("optDirectionDown"));
+    clickButton(find, QStringLiteral("ckWholeWordOnly"));
+    EXPECT_EQ(next(), 20);
+    const QString more = QStringLiteral("No more occurences of 'alpha' found! Would you like");
+    person.expect(more, prompts::Answer::No);
+    EXPECT_EQ(next(), 20);
+    person.expect(more, prompts::Answer::Yes);
+    EXPECT_EQ(next(), 0);
+    clickButton(find, QStringLiteral("ckMatchCase"));
+    find->findChild<QLineEdit *>(QStringLiteral("textFind"))->setText(QStringLiteral("ALPHA"));
+    person.expect(QStringLiteral("No more occurences of 'ALPHA'"), prompts::Answer::Yes);
+    person.expect(QStringLiteral("No occurences of 'ALPHA' found!"));
+    EXPECT_EQ(next(), 0);
 }
 
 TEST(ProgressTest, EscAndTheFrameCountAsCancelAndTheFormStays)

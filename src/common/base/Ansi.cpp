@@ -30,7 +30,29 @@ char ansiCode(char16_t c)
     return '?';
 }
 
+char upperByte(char byte)
+{
+    const QString upper = fromAnsi(QByteArrayView(&byte, 1)).toUpper();
+    const QByteArray stored = toAnsi(upper);
+    return stored.size() == 1 && fromAnsi(stored) == upper ? stored.front() : byte;
+}
+
+std::array<char, 256> makeUpper()
+{
+    std::array<char, 256> upper{};
+    for (std::size_t code = 0; code < upper.size(); ++code)
+        upper[code] = upperByte(static_cast<char>(code));
+    return upper;
+}
+
 } // namespace
+
+void foldAnsi(std::string_view bytes, char *out)
+{
+    static const std::array<char, 256> upper = makeUpper();
+    for (const char byte : bytes)
+        *out++ = upper[static_cast<unsigned char>(byte)];
+}
 
 QByteArray toAnsi(const QString &text)
 {

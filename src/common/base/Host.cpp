@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QProcess>
+#include <QSet>
 #include <QSysInfo>
 
 namespace
@@ -35,7 +36,34 @@ ProgramResult runToItsEnd(const QString &program, const QStringList &arguments, 
             process.readAllStandardOutput(), process.readAllStandardError()};
 }
 
-Host machine()
+// A process object that goes would take its program along, so one that is left running is kept
+// until the program ends, beyond the end of ours if need be.
+bool handOverTo(const QString &program, const QStringList &arguments, int patience)
+{
+    auto *process = new QProcess;
+    process->setStandardInputFile(QProcess::nullDevice());
+    process->setStandardOutputFile(QProcess::nullDevice());
+    process->setStandardErrorFile(QProcess::nullDevice());
+    process->start(program, arguments);
+    const bool started = process->waitForStarted(patience);
+    if (started && !process->waitForFinished(patience)) {
+        static auto *leftRunning = new QSet<QProcess *>;
+        leftRunning->insert(process);
+        QObject::connect(process, &QProcess::finished, process, [process] {
+            leftRunning->remove(process);
+            process->deleteLater();
+        });
+        return true;
+    }
+    const bool done =
+        started && process->exitStatus() == QProcess::NormalExit && process->exitCode() == 0;
+    delete process;
+    return done;
+}
+
+} // namespace
+
+Host machineHost()
 {
     Host host;
     host.now = [] { return QDateTime::currentDateTime(); };
@@ -49,13 +77,12 @@ Host machine()
         return QProcess::startDetached(program, arguments);
     };
     host.run = runToItsEnd;
+    host.handOver = handOverTo;
     return host;
 }
 
-} // namespace
-
 Host &host()
 {
-    static Host instance = machine();
+    static Host instance = machineHost();
     return instance;
 }

@@ -35,7 +35,12 @@ struct Host {
     // The same, and waits for its end, at most that many milliseconds; then it is stopped.
     std::function<ProgramResult(const QString &program, const QStringList &arguments, int patience)>
         run;
+    // Starts a program that may go on without us, and looks that many milliseconds whether it
+    // fails. False when it did not start, or ended in that time with another exit code than 0.
+    std::function<bool(const QString &program, const QStringList &arguments, int patience)>
+        handOver;
 };
 
+Host machineHost(); // reaches the real machine
 // The one host of the process; the graphical layer fills in pumpEvents, repaint, setBusy and open.
 Host &host();

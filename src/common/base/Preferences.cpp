@@ -3,6 +3,8 @@
 #include "common/base/AppInfo.h"
 #include "common/base/clsSystem.h"
 
+#include <QFileInfo>
+#include <QSaveFile>
 #include <QSettings>
 
 #include <memory>
@@ -45,11 +47,31 @@ QString storedName(const QString &name)
     return stored;
 }
 
+// The store learns of a full disk when its old file is gone already, so it is tried beforehand
+// whether a file with that many more characters can be written.
+bool hasRoom(const QSettings &store, qsizetype more)
+{
+#ifdef Q_OS_WIN
+    if (store.format() == QSettings::NativeFormat)
+        return true; // in the registry
+#endif
+    constexpr qsizetype mostBytes = 8; // of a character as it is stored
+    QSaveFile trial(store.fileName());
+    if (!trial.open(QIODevice::WriteOnly))
+        return true; // why it cannot be written, the store itself finds out
+    const QByteArray bytes(QFileInfo(store.fileName()).size() + (more + 64) * mostBytes, ' ');
+    const bool fits = trial.write(bytes) == bytes.size() && trial.flush();
+    trial.cancelWriting();
+    return fits;
+}
+
 } // namespace
 
 bool SetPrefStr(const QString &name, const QString &value)
 {
     const auto store = openStore();
+    if (!hasRoom(*store, name.size() + value.size()))
+        return false;
     store->setValue(storedName(name), value);
     store->sync();
     return store->status() == QSettings::NoError;

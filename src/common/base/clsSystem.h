@@ -114,6 +114,7 @@ public:
     static QString NumCleanStr(const QString &text); // without currency and thousands signs
     static QString CommafyNoDec(const QVariant &value);
     static QString FormatLongWithCommas(qint32 value);
+    static QString FormatTwoDecimals(double value); // "1,234.50"; halves away from zero
     static QString ZeroToNullStr(const QString &text);
     static qint32 Minus1ToZero(qint32 value);
     static int NotBelowZeroInt(int value);
@@ -157,6 +158,7 @@ public:
     static bool LaunchFile(const QString &item, const QStringList &parameters = {});
     static bool GotoWebsite(const QString &address);
     static bool GotoDVWebsite();
+    static bool SendEmail(const QString &address); // an empty message to this address
     static void WaitStart(); // the hourglass; not counted, one WaitEnd ends any number
     static void WaitEnd();
 
@@ -169,6 +171,7 @@ public:
     const PendingError &Error() const { return m_error; }
     static void ShowMsg(const QString &text, prompts::Kind kind = prompts::Kind::Information,
                         int helpContext = 0);
+    static void EmailMsg(const QString &text); // says its own name and no more
     // Trimmed; empty on Cancel. Asks again for text that is not a number when it must be one.
     static QString PromptInputString(const QString &prompt, const QString &title,
                                      const QString &preset = {}, bool numericOnly = false);

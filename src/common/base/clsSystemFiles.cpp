@@ -5,6 +5,7 @@
 #include "common/base/AppInfo.h"
 #include "common/base/Failure.h"
 #include "common/base/FileAttributes.h"
+#include "common/base/FileCopy.h"
 
 #include <QDir>
 #include <QFile>
@@ -17,24 +18,6 @@ namespace
 bool isSeparator(QChar c)
 {
     return c == u'/' || c == u'\\';
-}
-
-bool isSameFile(const QString &a, const QString &b)
-{
-    const QString first = QFileInfo(a).canonicalFilePath();
-    return !first.isEmpty() && first == QFileInfo(b).canonicalFilePath();
-}
-
-bool copyContents(QFile &from, QSaveFile &to)
-{
-    constexpr qint64 blockSize = 1 << 20;
-    while (!from.atEnd()) {
-        const QByteArray block = from.read(blockSize);
-        if (block.isEmpty() || to.write(block) != block.size())
-            return false;
-    }
-    // Closing would write out what is buffered too, but not say that the disk was full.
-    return from.error() == QFileDevice::NoError && to.flush();
 }
 
 // One entry of a tree on its way out. A link goes, what it points to stays.
@@ -97,13 +80,7 @@ bool clsSystem::DeleteFile(const QString &path)
 // The target gets ordinary permissions, so that a copy of an installed file can be written to.
 bool clsSystem::FileCopyFn(const QString &source, const QString &target)
 {
-    QFile from(LocalPath(source));
-    const QString targetPath = LocalPath(target);
-    if (source.isEmpty() || target.isEmpty() || !FileExists(source) ||
-        isSameFile(from.fileName(), targetPath) || !from.open(QIODevice::ReadOnly))
-        return false;
-    QSaveFile to(targetPath);
-    return to.open(QIODevice::WriteOnly) && copyContents(from, to) && to.commit();
+    return copyFile(source, target).done();
 }
 
 bool clsSystem::FileCopyFn_NonExist(const QString &source, const QString &target)
@@ -139,16 +116,17 @@ QString clsSystem::LocalPath(const QString &path)
 
 bool clsSystem::WriteToFile(const QString &text, const QString &path, bool showError)
 {
-    if (!DeleteFile(path)) {
+    QSaveFile file(LocalPath(path));
+    if (path.contains(u'*') || (!file.open(QIODevice::WriteOnly) && FileExists(path))) {
         if (showError) {
             prompts::warn(QLatin1String("Unable to write to : ") + path +
                           QLatin1String(". This file may already be open by another application."));
         }
         return false;
     }
-    QFile file(LocalPath(path));
+    // The old file stays until the new one is whole.
     const QByteArray bytes = toAnsi(text);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush();
+    return file.isOpen() && file.write(bytes) == bytes.size() && file.commit();
 }
 
 bool clsSystem::FileRead(QString &text, const QString &path)

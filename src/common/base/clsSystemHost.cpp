@@ -4,6 +4,8 @@
 #include "common/base/AppInfo.h"
 #include "common/base/Host.h"
 
+#include <QUrl>
+
 QString clsSystem::GetLocalComputerName()
 {
     return host().computerName();
@@ -35,6 +37,12 @@ bool clsSystem::GotoWebsite(const QString &address)
 bool clsSystem::GotoDVWebsite()
 {
     return GotoWebsite(app::website());
+}
+
+bool clsSystem::SendEmail(const QString &address)
+{
+    return LaunchFile(QLatin1String("mailto:") +
+                      QString::fromLatin1(QUrl::toPercentEncoding(Trim(address), "@+,")));
 }
 
 void clsSystem::WaitStart()

@@ -101,6 +101,14 @@ QString clsSystem::FormatLongWithCommas(qint32 value)
     return withSeparators(QString::number(value));
 }
 
+// The fourth decimal is the last that counts, so that a half is one as it was written, not as it
+// is kept.
+QString clsSystem::FormatTwoDecimals(double value)
+{
+    const double hundredths = std::round(std::round(value * 10000) / 100);
+    return host().locale().toString(hundredths / 100 + 0.0, 'f', 2);
+}
+
 QString clsSystem::ZeroToNullStr(const QString &text)
 {
     const auto number = NumberInText(text);

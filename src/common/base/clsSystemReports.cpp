@@ -32,6 +32,11 @@ void clsSystem::ShowMsg(const QString &text, prompts::Kind kind, int helpContext
     prompts::showText(text, kind, helpContext);
 }
 
+void clsSystem::EmailMsg(const QString &)
+{
+    prompts::inform(QStringLiteral("EmailMsg"));
+}
+
 QString clsSystem::PromptInputString(const QString &prompt, const QString &title,
                                      const QString &preset, bool numericOnly)
 {

@@ -3,6 +3,7 @@
 #include "common/base/Ansi.h"
 #include "common/base/clsSystem.h"
 #include "common/form/ListSinks.h"
+#include "common/ui/Controls.h"
 #include "db/clsDB.h"
 
 #include <QComboBox>
@@ -87,6 +88,15 @@ FieldBinding trimmedText(const QString &field, QLineEdit *box, int length)
     return made;
 }
 
+FieldBinding date(const QString &field, QLineEdit *box)
+{
+    FieldBinding made = text(field, box, 0);
+    made.show = [show = made.show](const QVariant &value) {
+        show(clsSystem::DBDateToDislayDate(value.toString()));
+    };
+    return made;
+}
+
 FieldBinding comboText(const QString &field, QComboBox *combo, int length, int listType)
 {
     combo->setCompleter(nullptr); // it would change the case of what was typed
@@ -113,6 +123,18 @@ FieldBinding lookup(const QString &field, QComboBox *combo, int listType)
             [combo] { return QVariant(ComboSink(combo).currentId()); }};
 }
 
+FieldBinding users(const QString &field, QComboBox *combo)
+{
+    FieldBinding made = lookup(field, combo, 0);
+    made.refill = [combo] {
+        ComboSink sink(combo);
+        sink.clear();
+        sink.addItem(QString(), -1);
+        return gDB.LoadCbo_Users(sink);
+    };
+    return made;
+}
+
 FieldBinding memo(const QString &field, QPlainTextEdit *box)
 {
     QObject::connect(box, &QPlainTextEdit::textChanged, box, [box] { holdMemoLimit(box); });
@@ -124,3 +146,9 @@ FieldBinding memo(const QString &field, QPlainTextEdit *box)
 }
 
 } // namespace binding
+
+void insertStamp(QPlainTextEdit *memo)
+{
+    TxtCtlInsertStr(memo, clsSystem::CurrDateTimeShort() + u" by " + gDB.LoginName());
+    memo->setFocus();
+}

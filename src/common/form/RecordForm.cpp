@@ -12,6 +12,8 @@
 
 #include <QCloseEvent>
 
+#include <algorithm>
+
 RecordForm::RecordForm(RecordSpec spec, QWidget *parent)
     : FormWindow(parent), m_spec(std::move(spec))
 {
@@ -47,12 +49,14 @@ bool RecordForm::recordExists()
 
 void RecordForm::SetTagVariant()
 {
-    setTagText(m_spec.tagPrefix + QString::number(m_rowid));
+    if (!m_spec.tagPrefix.isEmpty())
+        setTagText(m_spec.tagPrefix + QString::number(m_rowid));
 }
 
 void RecordForm::SetWindowCaption()
 {
-    setWindowTitle(m_spec.captionPrefix + description() + u" @" + clsSystem::CurrTimeAMPM());
+    if (!m_spec.captionPrefix.isEmpty())
+        setWindowTitle(m_spec.captionPrefix + description() + u" @" + clsSystem::CurrTimeAMPM());
 }
 
 QString RecordForm::deleteQuestion() const
@@ -71,8 +75,12 @@ void RecordForm::Init(qint32 rowid, bool bEdit)
             m_controls.EM->ViewMode();
         LoadData();
         SetUI();
-        if (bEdit && !m_bindings.empty())
-            m_bindings.front().control->setFocus();
+        const auto field =
+            std::find_if(m_bindings.begin(), m_bindings.end(), [](const FieldBinding &bound) {
+                return bound.control->focusPolicy() != Qt::NoFocus;
+            });
+        if (bEdit && field != m_bindings.end())
+            field->control->setFocus();
         else
             m_controls.tabs->setFocus();
     });
@@ -85,7 +93,7 @@ void RecordForm::InitControls()
         for (const FieldBinding &binding : m_bindings)
             if (binding.refill && !binding.refill())
                 m_allShown = false;
-        SetLabels(this, tableFile());
+        SetLabels(this, schema::table(m_spec.labelTable.value_or(m_spec.table)).dataFile());
         m_controls.LE->Clear();
     });
 }
@@ -96,9 +104,15 @@ void RecordForm::LoadData()
         const Hourglass hourglass;
         const clsDB::TellOnce tellOnce(gDB);
         InitControls();
+        if (!loadOwner()) {
+            m_allShown = false;
+            return;
+        }
         if (m_rowid > 0) {
             SetTagVariant();
             showRecord();
+        } else {
+            startNew();
         }
         if (m_rowid > 0 || m_spec.newCaption.isEmpty())
             SetWindowCaption();
@@ -115,6 +129,7 @@ void RecordForm::showRecord()
     }
     for (const FieldBinding &binding : m_bindings)
         binding.show(record.value(binding.field));
+    afterRead(record);
     UpdateLastEditCtl();
     afterLoad();
 }
@@ -127,7 +142,8 @@ void RecordForm::SetUI()
         m_controls.lblEdit->setText(edit ? tr("Cancel Edi&t") : tr("Edi&t Data"));
         LockControls(this, !edit, QStringLiteral("E"));
         m_controls.cmdRefresh->setEnabled(!isNew && !edit);
-        m_controls.cmdDelete->setEnabled(!isNew && edit);
+        if (m_controls.cmdDelete != nullptr)
+            m_controls.cmdDelete->setEnabled(!isNew && edit);
         m_controls.lblEdit->setVisible(!isNew);
         if (m_newRecordHint != nullptr)
             m_newRecordHint->setVisible(isNew);
@@ -147,7 +163,7 @@ void RecordForm::DoEditModeBtn()
             return;
         if (inEditMode())
             leaveEditMode();
-        else if (ownerExists())
+        else if (ownerExists() && gDB.MayWrite())
             enterEditMode();
         else
             return;
@@ -217,6 +233,7 @@ bool RecordForm::storeRecord()
     }
     SetLock(false);
     SetWindowCaption();
+    afterStore();
     return saved;
 }
 

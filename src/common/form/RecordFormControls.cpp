@@ -12,6 +12,8 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 
+#include <algorithm>
+
 void RecordForm::bindField(FieldBinding binding)
 {
     m_bindings.push_back(std::move(binding));
@@ -42,6 +44,11 @@ void RecordForm::bind(const QString &field, QPlainTextEdit *memo)
     bindField(binding::memo(field, memo));
 }
 
+void RecordForm::bindDate(const QString &field, QLineEdit *box)
+{
+    bindField(binding::date(field, box));
+}
+
 void RecordForm::bindLookup(const QString &field, QComboBox *combo, int listType)
 {
     bindField(binding::lookup(field, combo, listType));
@@ -52,6 +59,11 @@ void RecordForm::bindText(const QString &field, QComboBox *combo, int listType)
     bindField(binding::comboText(field, combo, fieldLength(field), listType));
 }
 
+void RecordForm::bindUsers(const QString &field, QComboBox *combo)
+{
+    bindField(binding::users(field, combo));
+}
+
 void RecordForm::bindCustom(const QString &field, QWidget *control,
                             std::function<void(const QVariant &)> show,
                             std::function<QVariant()> value)
@@ -59,10 +71,40 @@ void RecordForm::bindCustom(const QString &field, QWidget *control,
     bindField({field, control, {}, std::move(show), std::move(value)});
 }
 
-void RecordForm::insertStamp(QPlainTextEdit *memo)
+void RecordForm::bindListEditor(QAbstractButton *button, QComboBox *combo, int listType)
 {
-    TxtCtlInsertStr(memo, clsSystem::CurrDateTimeShort() + u" by " + gDB.LoginName());
-    memo->setFocus();
+    connect(button, &QAbstractButton::clicked, this,
+            [this, combo, listType] { editList(combo, listType); });
+}
+
+// A list that cannot be read again must not cost the record what was chosen from it.
+void RecordForm::editList(QComboBox *combo, int listType)
+{
+    guarded(context("editList").constData(), [&] {
+        const auto binding =
+            std::find_if(m_bindings.begin(), m_bindings.end(),
+                         [combo](const FieldBinding &bound) { return bound.control == combo; });
+        if (binding == m_bindings.end())
+            return;
+        const QVariant chosen = binding->value();
+        const QString text = combo->currentText();
+        switchboard().EditCategory(listType);
+        const bool whole = binding->refill();
+        binding->show(chosen);
+        if (!whole && !combo->isEditable() && binding->value() != chosen) {
+            cboAddItem(combo, text, chosen.toInt());
+            binding->show(chosen);
+        }
+        if (combo->isEnabled())
+            combo->setFocus();
+    });
+}
+
+void RecordForm::showField(const QString &field, const QVariant &value)
+{
+    for (const FieldBinding &bound : m_bindings)
+        if (bound.field == field)
+            bound.show(value);
 }
 
 void RecordForm::connectControls()
@@ -78,7 +120,8 @@ void RecordForm::connectControls()
     connect(c.cmdApply, &QPushButton::clicked, this, &RecordForm::saveAndStay);
     connect(c.CancelButton, &QPushButton::clicked, this, &RecordForm::cancel);
     connect(c.cmdRefresh, &QPushButton::clicked, this, &RecordForm::LoadData);
-    connect(c.cmdDelete, &QPushButton::clicked, this, &RecordForm::deleteRecord);
+    if (c.cmdDelete != nullptr)
+        connect(c.cmdDelete, &QPushButton::clicked, this, &RecordForm::deleteRecord);
     connect(c.lblEdit, &QPushButton::clicked, this, &RecordForm::DoEditModeBtn);
 
     // Keys of the whole form are seen at the control that has the focus, before text boxes take
@@ -114,6 +157,7 @@ void RecordForm::saveAndStay()
     if (!SaveData())
         return;
     m_controls.EM->ViewMode();
+    afterApply();
     UpdateLastEditCtl();
     SetUI();
 }
@@ -136,11 +180,16 @@ void RecordForm::deleteRecord()
         }
         const auto answer =
             prompts::ask(deleteQuestion(), prompts::Answer::Cancel, tr("DELETE Confirmation"));
-        if (answer != prompts::Answer::Yes || !gDB.DeleteRecord(m_rowid, tablePath()))
+        if (answer != prompts::Answer::Yes || !removeRecord())
             return;
         m_controls.EM->ViewMode();
         close();
     });
+}
+
+bool RecordForm::removeRecord()
+{
+    return gDB.DeleteRecord(m_rowid, tablePath());
 }
 
 // Field colours are worked out from the palette, so they follow a change of it.
@@ -171,16 +220,8 @@ bool RecordForm::handleKey(const QKeyEvent *event)
             DoEditModeBtn();
         return true;
     }
-    if (event->modifiers() != Qt::NoModifier)
+    if (event->modifiers() != Qt::NoModifier || event->key() != Qt::Key_F5)
         return false;
-    switch (event->key()) {
-    case Qt::Key_F1:
-        switchboard().showHelp(helpTopic());
-        return true;
-    case Qt::Key_F5:
-        m_controls.cmdRefresh->click(); // does nothing while it is disabled
-        return true;
-    default:
-        return false;
-    }
+    m_controls.cmdRefresh->click(); // does nothing while it is disabled
+    return true;
 }

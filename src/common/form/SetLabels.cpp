@@ -5,6 +5,13 @@
 
 #include <QLabel>
 
+namespace
+{
+
+constexpr const char *WholeName = "wholeName"; // of a field whose label shows a part of it
+
+} // namespace
+
 void SetLabels(QWidget *form, const QString &tableFile)
 {
     const auto labels = form->findChildren<QLabel *>();
@@ -12,9 +19,13 @@ void SetLabels(QWidget *form, const QString &tableFile)
         const QString field = controlTag(label);
         if (field.isEmpty())
             continue;
-        QString name = CustomLabels.GetCurrentLabelName(tableFile, field, true);
-        if (name.isEmpty())
+        const QString whole = CustomLabels.GetCurrentLabelName(tableFile, field, true);
+        if (whole.isEmpty())
             continue;
+        QString name = clsCustomLabels::ShortName(whole);
+        label->setProperty(WholeName, name == whole ? QVariant() : whole);
+        label->setToolTip(name == whole ? QString() : whole.toHtmlEscaped());
+        label->setTextFormat(Qt::PlainText); // a name may look like markup
         // A name is plain text, but on the label of a field an "&" would mark an access key.
         if (label->buddy() != nullptr)
             name.replace(QLatin1Char('&'), QLatin1String("&&"));
@@ -24,6 +35,9 @@ void SetLabels(QWidget *form, const QString &tableFile)
 
 QString labelCaption(const QLabel *label)
 {
+    const QVariant whole = label->property(WholeName);
+    if (whole.isValid())
+        return whole.toString();
     const QString text = label->text();
     if (label->buddy() == nullptr)
         return text;

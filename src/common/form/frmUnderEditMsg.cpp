@@ -1,24 +1,17 @@
 #include "common/form/frmUnderEditMsg.h"
 
+#include "common/base/HelpTopics.h"
 #include "common/ui/Icons.h"
-#include "common/ui/Switchboard.h"
 #include "ui_frmUnderEditMsg.h"
 
 #include <QApplication>
-#include <QKeyEvent>
 #include <QStyle>
-
-namespace
-{
-
-constexpr int kHelpTopic = 1050;
-
-} // namespace
 
 frmUnderEditMsg::frmUnderEditMsg(QWidget *parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::frmUnderEditMsg>())
 {
     m_ui->setupUi(this);
+    setProperty("helpTopic", help::RecordUnderEdit);
     const int size = style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, this);
     m_ui->imgWarn->setPixmap(
         icon(QStringLiteral("warning")).pixmap(QSize(size, size), devicePixelRatioF()));
@@ -40,12 +33,4 @@ bool frmUnderEditMsg::ask(const QString &user, const QString &station)
     frmUnderEditMsg question(QApplication::activeWindow());
     question.Init(user, station);
     return question.exec() == QDialog::Accepted;
-}
-
-void frmUnderEditMsg::keyPressEvent(QKeyEvent *event)
-{
-    if (event->key() == Qt::Key_F1)
-        switchboard().showHelp(kHelpTopic);
-    else
-        QDialog::keyPressEvent(event);
 }

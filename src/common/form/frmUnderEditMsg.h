@@ -21,9 +21,6 @@ public:
     // Shows the question over the active window; true: edit the record anyway.
     static bool ask(const QString &user, const QString &station);
 
-protected:
-    void keyPressEvent(QKeyEvent *event) override;
-
 private:
     std::unique_ptr<Ui::frmUnderEditMsg> m_ui;
 };

@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QShortcut>
 #include <QTextEdit>
 
 #include <algorithm>
@@ -67,6 +68,10 @@ bool lockText(QWidget *control, bool locked)
 
 void lockControl(QWidget *control, bool locked)
 {
+    if (auto *own = dynamic_cast<EnabledControl *>(control)) {
+        own->SetEnabled(!locked);
+        return;
+    }
     if (lockText<QLineEdit>(control, locked) || lockText<QPlainTextEdit>(control, locked) ||
         lockText<QTextEdit>(control, locked) || lockText<QAbstractSpinBox>(control, locked))
         return;
@@ -148,6 +153,13 @@ QColor editableColour(const QWidget *control)
 {
     const QColor base = baseColour(control);
     return isDark(base) ? base : QColor(Qt::white);
+}
+
+void shortcutFor(QWidget *form, const QKeySequence &key, QAbstractButton *button)
+{
+    auto *shortcut = new QShortcut(key, form);
+    shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+    QObject::connect(shortcut, &QShortcut::activated, button, &QAbstractButton::click);
 }
 
 bool KeyPressedCtrlE(int key, Qt::KeyboardModifiers modifiers)

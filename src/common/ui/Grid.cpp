@@ -90,6 +90,36 @@ void Grid::setEditable(bool editable)
     m_model->setEditable(editable);
 }
 
+void Grid::setColumnEditable(int column, bool editable)
+{
+    m_model->setColumnEditable(column - 1, editable);
+}
+
+void Grid::setRowNumbersVisible(bool visible)
+{
+    verticalHeader()->setVisible(visible);
+}
+
+void Grid::setRowData(int row, const QVariant &value)
+{
+    if (row >= 1 && row <= rows())
+        m_model->setRowData(row - 1, value);
+}
+
+QVariant Grid::rowData(int row) const
+{
+    return row >= 1 && row <= rows() ? m_model->rowData(row - 1) : QVariant();
+}
+
+void Grid::finishEditing()
+{
+    QWidget *editor = state() == EditingState ? indexWidget(currentIndex()) : nullptr;
+    if (editor == nullptr)
+        return;
+    commitData(editor);
+    closeEditor(editor, QAbstractItemDelegate::NoHint);
+}
+
 void Grid::setBackColour(const QColor &colour)
 {
     QPalette colours;

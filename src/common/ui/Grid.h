@@ -7,6 +7,7 @@
 #include <QList>
 #include <QString>
 #include <QTableView>
+#include <QVariant>
 
 class GridModel;
 
@@ -36,6 +37,12 @@ public:
     // A grid that is not editable refuses typing, deleting and pasting but can be copied from.
     bool isEditable() const;
     void setEditable(bool editable);
+    // One column of an editable grid that is not, and the heading's column of row numbers.
+    void setColumnEditable(int column, bool editable);
+    void setRowNumbersVisible(bool visible);
+    // What a row stands for, unseen; kept until setRows or setColumns.
+    void setRowData(int row, const QVariant &value);
+    QVariant rowData(int row) const;
     void setBackColour(const QColor &colour);
 
     // What stands between cells and rows on the clipboard; tab and line feed until set.
@@ -46,6 +53,8 @@ public:
     // program put there, with tabs and line ends, is taken as well.
     void paste();
     void clearSelectedCells();
+
+    void finishEditing(); // what is being typed counts as entered
 
 Q_SIGNALS:
     void cellEdited(int row, int column); // by the person, not by setText

@@ -1,11 +1,15 @@
 #include "common/ui/GridModel.h"
 
+#include <QGuiApplication>
+#include <QPalette>
+
 void GridModel::resize(int rows, const QStringList &headings)
 {
     beginResetModel();
     m_headings = headings;
     m_rowLabels = QStringList(rows);
     m_cells.fill(QStringList(headings.size()), rows);
+    m_rowData = QVariantList(rows);
     endResetModel();
 }
 
@@ -47,6 +51,16 @@ void GridModel::clearCells()
     Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
 }
 
+void GridModel::setColumnEditable(int column, bool editable)
+{
+    if (editable)
+        m_lockedColumns.remove(column);
+    else
+        m_lockedColumns.insert(column);
+    if (rowCount() > 0 && column >= 0 && column < columnCount())
+        Q_EMIT dataChanged(index(0, column), index(rowCount() - 1, column));
+}
+
 int GridModel::rowCount(const QModelIndex &parent) const
 {
     return parent.isValid() ? 0 : static_cast<int>(m_cells.size());
@@ -59,14 +73,18 @@ int GridModel::columnCount(const QModelIndex &parent) const
 
 QVariant GridModel::data(const QModelIndex &index, int role) const
 {
-    if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::EditRole))
+    if (!index.isValid())
+        return {};
+    if (role == Qt::BackgroundRole && m_lockedColumns.contains(index.column()))
+        return QGuiApplication::palette().brush(QPalette::Window);
+    if (role != Qt::DisplayRole && role != Qt::EditRole)
         return {};
     return cell(index.row(), index.column());
 }
 
 bool GridModel::setData(const QModelIndex &index, const QVariant &value, int role)
 {
-    if (!index.isValid() || role != Qt::EditRole || !m_editable)
+    if (!index.isValid() || role != Qt::EditRole || !isEditable(index.column()))
         return false;
     if (cell(index.row(), index.column()) != value.toString()) {
         setCell(index.row(), index.column(), value.toString());
@@ -94,5 +112,5 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
 Qt::ItemFlags GridModel::flags(const QModelIndex &index) const
 {
     const Qt::ItemFlags flags = QAbstractTableModel::flags(index);
-    return m_editable && index.isValid() ? flags | Qt::ItemIsEditable : flags;
+    return index.isValid() && isEditable(index.column()) ? flags | Qt::ItemIsEditable : flags;
 }

@@ -4,7 +4,9 @@
 #include "common/ui/Grid.h"
 
 #include <QAbstractTableModel>
+#include <QSet>
 #include <QStringList>
+#include <QVariant>
 
 class GridModel : public QAbstractTableModel
 {
@@ -23,6 +25,9 @@ public:
 
     bool isEditable() const { return m_editable; }
     void setEditable(bool editable) { m_editable = editable; }
+    void setColumnEditable(int column, bool editable);
+    void setRowData(int row, const QVariant &value) { m_rowData[row] = value; }
+    QVariant rowData(int row) const { return m_rowData[row]; }
 
     int rowCount(const QModelIndex &parent = {}) const override;
     int columnCount(const QModelIndex &parent = {}) const override;
@@ -35,8 +40,12 @@ Q_SIGNALS:
     void edited(const QModelIndex &index); // through setData, as editors do
 
 private:
+    bool isEditable(int column) const { return m_editable && !m_lockedColumns.contains(column); }
+
     QStringList m_headings;
     QStringList m_rowLabels;
     QList<QStringList> m_cells;
+    QVariantList m_rowData;
+    QSet<int> m_lockedColumns;
     bool m_editable = true;
 };

@@ -14,8 +14,11 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QRegularExpression>
+#include <QScreen>
 #include <QStyle>
 
+using guidialogs::CursorPause;
+using guidialogs::windowInUse;
 using prompts::Answer;
 using prompts::Kind;
 
@@ -27,35 +30,6 @@ QPointer<QWidget> &mainWindow()
     static QPointer<QWidget> window;
     return window;
 }
-
-QWidget *windowInUse()
-{
-    if (QWidget *modal = QApplication::activeModalWidget())
-        return modal;
-    if (QWidget *active = QApplication::activeWindow())
-        return active;
-    return mainWindow();
-}
-
-// The hourglass rests while a person is asked.
-class CursorPause
-{
-public:
-    CursorPause() : m_busy(QGuiApplication::overrideCursor() != nullptr)
-    {
-        if (m_busy)
-            host().setBusy(false);
-    }
-    ~CursorPause()
-    {
-        if (m_busy)
-            host().setBusy(true);
-    }
-    Q_DISABLE_COPY_MOVE(CursorPause)
-
-private:
-    bool m_busy;
-};
 
 QMessageBox::StandardButton buttonOf(Answer answer)
 {
@@ -106,11 +80,27 @@ Answer escapeOf(const QList<Answer> &buttons)
     return buttons.value(0, Answer::Ok);
 }
 
+// A name typed without an extension gets that of the chosen kind of file; the kind chosen first is
+// that of the extension asked for.
+void followFilter(QFileDialog &dialog, const QString &extension)
+{
+    static const QRegularExpression single(QStringLiteral("\\(\\*\\.(\\w+)\\)$"));
+    dialog.setDefaultSuffix(extension);
+    for (const QString &filter : dialog.nameFilters())
+        if (!extension.isEmpty() && single.match(filter).captured(1) == extension)
+            dialog.selectNameFilter(filter);
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog,
+                     [&dialog, extension](const QString &filter) {
+                         const QString own = single.match(filter).captured(1);
+                         dialog.setDefaultSuffix(own.isEmpty() ? extension : own);
+                     });
+}
+
 QString runFileDialog(QFileDialog &dialog, const prompts::FileRequest &request)
 {
     const CursorPause pause;
     dialog.setNameFilters(guidoors::nameFilters(request.filter));
-    dialog.setDefaultSuffix(request.defaultExtension);
+    followFilter(dialog, request.defaultExtension);
     const QFileInfo initial(QDir::fromNativeSeparators(request.initialName));
     if (request.initialName.contains(u'/') || request.initialName.contains(u'\\'))
         dialog.setDirectory(initial.absolutePath());
@@ -181,6 +171,27 @@ void guidialogs::setMainWindow(QWidget *window)
     mainWindow() = window;
 }
 
+QWidget *guidialogs::windowInUse()
+{
+    if (QWidget *modal = QApplication::activeModalWidget())
+        return modal;
+    if (QWidget *active = QApplication::activeWindow())
+        return active;
+    return mainWindow();
+}
+
+guidialogs::CursorPause::CursorPause() : m_busy(QGuiApplication::overrideCursor() != nullptr)
+{
+    if (m_busy)
+        host().setBusy(false);
+}
+
+guidialogs::CursorPause::~CursorPause()
+{
+    if (m_busy)
+        host().setBusy(true);
+}
+
 Answer guidialogs::message(const prompts::Message &message)
 {
     const CursorPause pause;
@@ -236,8 +247,15 @@ std::optional<QString> guidialogs::input(const QString &prompt, const QString &t
 QString guidialogs::folder(const QString &prompt, const QString &start)
 {
     const CursorPause pause;
-    return QDir::toNativeSeparators(QFileDialog::getExistingDirectory(
-        windowInUse(), prompt, QDir::fromNativeSeparators(start)));
+    QFileDialog dialog(windowInUse(), prompt, QDir::fromNativeSeparators(start));
+    dialog.setFileMode(QFileDialog::Directory);
+    dialog.setOption(QFileDialog::ShowDirsOnly);
+    // What to choose stands in the title alone, so all of it has to be seen.
+    const int titleWidth = dialog.fontMetrics().horizontalAdvance(prompt) * 3 / 2;
+    dialog.resize(dialog.size().expandedTo({titleWidth, 0}).boundedTo(dialog.screen()->size()));
+    if (dialog.exec() != QDialog::Accepted)
+        return {};
+    return QDir::toNativeSeparators(dialog.selectedFiles().value(0));
 }
 
 QString guidialogs::openFile(const prompts::FileRequest &request)

@@ -9,6 +9,19 @@ namespace guidialogs
 {
 
 void setMainWindow(QWidget *window);
+QWidget *windowInUse(); // the modal one, else the active one, else the main window
+
+// The hourglass rests while a person is asked.
+class CursorPause
+{
+public:
+    CursorPause();
+    ~CursorPause();
+    Q_DISABLE_COPY_MOVE(CursorPause)
+
+private:
+    bool m_busy;
+};
 
 prompts::Answer message(const prompts::Message &message);
 void longText(const prompts::Message &message);

@@ -3,6 +3,8 @@
 #include "common/base/Host.h"
 #include "common/base/Prompts.h"
 #include "common/ui/GuiDialogs.h"
+#include "common/ui/GuiPrinting.h"
+#include "common/ui/Help.h"
 
 #include <QApplication>
 #include <QDesktopServices>
@@ -42,6 +44,7 @@ bool openItem(const QString &item)
 
 void installGuiDoors(QWidget *mainWindow)
 {
+    installHelpKey();
     guidialogs::setMainWindow(mainWindow);
     prompts::Backend &backend = prompts::backend();
     backend.message = guidialogs::message;
@@ -51,6 +54,8 @@ void installGuiDoors(QWidget *mainWindow)
     backend.openFile = guidialogs::openFile;
     backend.saveFile = guidialogs::saveFile;
     backend.progress = guidialogs::progress;
+
+    printing::backend() = {guiprinting::preview, guiprinting::dialog};
 
     host().pumpEvents = [] { QCoreApplication::processEvents(); };
     host().repaint = [] { QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); };

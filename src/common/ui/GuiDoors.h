@@ -1,4 +1,5 @@
-// The real boxes, file dialogs and windows behind prompts:: and the desktop's side of host().
+// The real boxes, file dialogs and windows behind prompts:: and printing::, and the desktop's side
+// of host().
 #pragma once
 
 #include <QString>
@@ -6,8 +7,9 @@
 
 class QWidget;
 
-// Fills prompts::backend(), and pumpEvents, repaint, setBusy and open of host(). Boxes stand over
-// the window in use, else over the main window, which may be null.
+// Fills prompts::backend(), printing::backend(), and pumpEvents, repaint, setBusy and open of
+// host(), and has F1 open the manual. Boxes stand over the window in use, else over the main
+// window, which may be null.
 void installGuiDoors(QWidget *mainWindow);
 
 namespace guidoors

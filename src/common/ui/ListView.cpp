@@ -6,6 +6,7 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QPainter>
 #include <QStyledItemDelegate>
 
@@ -19,10 +20,22 @@ class RowDelegate : public QStyledItemDelegate
 {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
+    void setMaxLength(int length) { m_maxLength = length; }
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
     {
         return QStyledItemDelegate::sizeHint(option, index) + QSize(0, 4);
     }
+    QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option,
+                          const QModelIndex &index) const override
+    {
+        QWidget *editor = QStyledItemDelegate::createEditor(parent, option, index);
+        if (auto *box = qobject_cast<QLineEdit *>(editor); box != nullptr && m_maxLength > 0)
+            box->setMaxLength(m_maxLength);
+        return editor;
+    }
+
+private:
+    int m_maxLength = 0;
 };
 
 } // namespace
@@ -183,6 +196,35 @@ void ListView::showSortIndicator()
     header()->setSortIndicator(column, sortOrder());
 }
 
+void ListView::setLabelEditing(LabelStore store, int maxLength)
+{
+    finishEditing();
+    static_cast<RowDelegate *>(itemDelegate())->setMaxLength(maxLength);
+    const bool editable = static_cast<bool>(store);
+    setEditTriggers(editable ? EditTriggers(EditKeyPressed | SelectedClicked)
+                             : EditTriggers(NoEditTriggers));
+    m_model->setLabelStore(std::move(store));
+}
+
+bool ListView::editLabel(const QString &key)
+{
+    const QModelIndex label = m_model->index(rowOfKey(key), 0);
+    if (!m_model->flags(label).testFlag(Qt::ItemIsEditable) || !LvSelectItem(this, key))
+        return false;
+    edit(label);
+    return state() == EditingState;
+}
+
+void ListView::finishEditing()
+{
+    QWidget *editor = state() == EditingState ? indexWidget(currentIndex()) : nullptr;
+    if (editor == nullptr)
+        return;
+    commitData(editor);
+    if (indexWidget(currentIndex()) == editor) // its row may have gone meanwhile
+        closeEditor(editor, QAbstractItemDelegate::NoHint);
+}
+
 void ListView::setEmptyText(const QString &text)
 {
     m_emptyText = text;
@@ -210,6 +252,8 @@ void ListView::keyPressEvent(QKeyEvent *event)
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (!enter)
         QTreeView::keyPressEvent(event);
+    else if (state() == EditingState)
+        event->accept(); // it ends the label being typed, no more
     else if (LvIsItemSelected(this))
         Q_EMIT itemActivated(LvGetSelectedItemKey(this));
     else

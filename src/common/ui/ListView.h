@@ -8,6 +8,8 @@
 #include <QStringList>
 #include <QTreeView>
 
+#include <functional>
+#include <optional>
 #include <vector>
 
 class ListViewModel;
@@ -56,6 +58,15 @@ public:
     void setSortSubstitute(int column, int sortsBy);
     int sortSubstitute(int column) const; // the column itself when it has none
 
+    // Lets labels (the first column) be typed over: F2, a click on the selected row, or editLabel.
+    // `store` keeps the text and gives what the label becomes; nothing: the old label
+    // stays. Null ends it. A length above 0 bounds what can be typed.
+    using LabelStore =
+        std::function<std::optional<QString>(const QString &key, const QString &text)>;
+    void setLabelEditing(LabelStore store, int maxLength = 0);
+    bool editLabel(const QString &key); // false when there is no such row
+    void finishEditing();               // what is being typed counts as entered
+
     // The sentence shown while the list is empty.
     void setEmptyText(const QString &text);
 
@@ -93,3 +104,6 @@ void LvInvertSelection(ListView *lv);
 // What a click on a heading does: turns the order round, whichever column was sorted before, and
 // sorts by the column or its substitute.
 void LVSort(ListView *lv, int column);
+// The files and folders of a folder: name as on the disk (also the key), size, type, and when it
+// was changed. An empty name or a folder that is not there empties the list.
+void LvGetFileList(ListView *lv, const QString &folder);

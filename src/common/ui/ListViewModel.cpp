@@ -164,11 +164,30 @@ QVariant ListViewModel::data(const QModelIndex &index, int role) const
 {
     if (!index.isValid())
         return {};
-    if (role == Qt::DisplayRole)
+    if (role == Qt::DisplayRole || role == Qt::EditRole)
         return cell(row(index.row()), index.column());
     if (role == Qt::TextAlignmentRole && m_columns[index.column()].right)
         return QVariant::fromValue(Qt::Alignment(Qt::AlignRight | Qt::AlignVCenter));
     return {};
+}
+
+// Storing may show a box, and rows may come and go behind it: the label goes by its key.
+bool ListViewModel::setData(const QModelIndex &index, const QVariant &value, int role)
+{
+    if (!index.isValid() || index.column() != 0 || role != Qt::EditRole || !m_labelStore)
+        return false;
+    const QString key = row(index.row()).key;
+    const std::optional<QString> label = m_labelStore(key, value.toString());
+    const int at = rowOfKey(key);
+    if (!label || at < 0)
+        return false;
+    QStringList &texts = m_rows[static_cast<size_t>(at)].texts;
+    if (texts.isEmpty())
+        texts.append(QString());
+    texts[0] = *label;
+    const QModelIndex changed = this->index(at, 0);
+    Q_EMIT dataChanged(changed, changed);
+    return true;
 }
 
 QVariant ListViewModel::headerData(int section, Qt::Orientation orientation, int role) const
@@ -186,6 +205,8 @@ QVariant ListViewModel::headerData(int section, Qt::Orientation orientation, int
 
 Qt::ItemFlags ListViewModel::flags(const QModelIndex &index) const
 {
-    return index.isValid() ? Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren
-                           : Qt::NoItemFlags;
+    if (!index.isValid())
+        return Qt::NoItemFlags;
+    const Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
+    return index.column() == 0 && m_labelStore ? flags | Qt::ItemIsEditable : flags;
 }

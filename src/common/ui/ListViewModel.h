@@ -35,9 +35,13 @@ public:
     int sortColumn() const { return m_sortColumn; }
     Qt::SortOrder sortOrder() const { return m_sortOrder; }
 
+    // What editing a label does, as ListView::setLabelEditing tells; null: labels are not edited.
+    void setLabelStore(ListView::LabelStore store) { m_labelStore = std::move(store); }
+
     int rowCount(const QModelIndex &parent = {}) const override;
     int columnCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
+    bool setData(const QModelIndex &index, const QVariant &value, int role) override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
     Qt::ItemFlags flags(const QModelIndex &index) const override;
 
@@ -50,6 +54,7 @@ private:
     std::vector<ListView::Row> m_rows;
     // Filled by the first look-up after a change.
     mutable QHash<QString, int> m_rowOfKey;
+    ListView::LabelStore m_labelStore;
     QCollator m_collator;
     int m_sortColumn = -1;
     Qt::SortOrder m_sortOrder = Qt::AscendingOrder;

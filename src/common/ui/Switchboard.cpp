@@ -9,11 +9,15 @@ class QuietSwitchboard : public Switchboard
 {
 public:
     void ShowCustomer(qint32, bool) override {}
+    void ShowPS(qint32, qint32, bool) override {}
+    void ShowIssue(qint32, qint32, bool, qint32) override {}
+    bool GetIssueTemplateID(qint32 &) override { return false; }
     void NotifyCustomer(qint32, int, qint32) override {}
     void LookupCustomer() override {}
     void NewCustomer() override {}
     void EditCategory(qint32) override {}
-    void SendMail(const QString &, const QString &, const QString &) override {}
+    QString GetShortDateFromPopupCalendar(const QString &) override { return {}; }
+    bool SendMail(const QString &, const QString &, const QString &) override { return false; }
     // The window was handed over, so it may not be leaked.
     void showChild(QWidget *form) override { form->deleteLater(); }
     void showHelp(int) override {}

@@ -14,13 +14,22 @@ public:
 
     // Record windows: raise the one that is open, else open it.
     virtual void ShowCustomer(qint32 rowid, bool bEdit) = 0;
+    // A customer's product or service; -1 begins a new one.
+    virtual void ShowPS(qint32 rowid, qint32 custid, bool bEdit) = 0;
+    // A customer's issue; -1 begins a new one, from that template when its number is above 0.
+    virtual void ShowIssue(qint32 rowid, qint32 custid, bool bEdit, qint32 templateId) = 0;
+    // Lets a person choose the template of a new issue, -1 for none; false when it was cancelled.
+    virtual bool GetIssueTemplateID(qint32 &id) = 0;
     // Kind 1 issues, 2 product/services: an open customer window reloads that list.
     virtual void NotifyCustomer(qint32 custid, int what, qint32 id) = 0;
     virtual void LookupCustomer() = 0;
     virtual void NewCustomer() = 0;
     // List editors; the argument is the list's type code.
     virtual void EditCategory(qint32 type) = 0;
-    virtual void SendMail(const QString &to, const QString &subject, const QString &body) = 0;
+    // The picked date in its short form; empty when none was. Opens at `start` when that is a date.
+    virtual QString GetShortDateFromPopupCalendar(const QString &start) = 0;
+    // False when no mail program took the message; that was told.
+    virtual bool SendMail(const QString &to, const QString &subject, const QString &body) = 0;
     // Shows a window of ours as a child of the main window, which owns it from then on.
     virtual void showChild(QWidget *form) = 0;
     virtual void showHelp(int topic) = 0;

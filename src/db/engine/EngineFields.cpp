@@ -18,6 +18,12 @@ struct FieldPlace {
     {
     }
     explicit operator bool() const { return open != nullptr; }
+    template <class Work>
+    Code change(const Work &work) const
+    {
+        return withTable(open, r4failure,
+                         [&](OpenTable &own) { return answer(own, work(own.table)); });
+    }
     const FieldDef &def() const
     {
         return open->table.layout().fields[static_cast<std::size_t>(position)];
@@ -70,21 +76,21 @@ const char *f4name(Handle field)
 
 void f4assignLong(Handle field, std::int32_t value)
 {
-    if (const FieldPlace place(field); place)
-        (void)answer(*place.open, place.open->table.assignInteger(place.position, value));
+    const FieldPlace place(field);
+    (void)place.change([&](Table &rows) { return rows.assignInteger(place.position, value); });
 }
 
 void f4assignDouble(Handle field, double value)
 {
-    if (const FieldPlace place(field); place)
-        (void)answer(*place.open, place.open->table.assignNumber(place.position, value));
+    const FieldPlace place(field);
+    (void)place.change([&](Table &rows) { return rows.assignNumber(place.position, value); });
 }
 
 void f4assignNVB(Handle field, std::string_view text, std::uint32_t length)
 {
-    if (const FieldPlace place(field); place)
-        (void)answer(*place.open,
-                     place.open->table.assignText(place.position, text.substr(0, length)));
+    const FieldPlace place(field);
+    (void)place.change(
+        [&](Table &rows) { return rows.assignText(place.position, text.substr(0, length)); });
 }
 
 std::uint32_t f4memoLenVB(Handle field)
@@ -92,11 +98,13 @@ std::uint32_t f4memoLenVB(Handle field)
     const FieldPlace place(field);
     if (!place || place.def().type != 'M')
         return 0;
-    const Result<const std::string *> text = place.open->table.memo(place.position);
-    if (text.ok())
-        return static_cast<std::uint32_t>((*text)->size());
-    place.open->session.note(text.error(), Session::Answer::Failure);
-    return 0;
+    return withTable(place.open, 0U, [&](OpenTable &open) {
+        const Result<const std::string *> text = open.table.memo(place.position);
+        if (text.ok())
+            return static_cast<std::uint32_t>((*text)->size());
+        open.session.note(text.error(), Session::Answer::Failure);
+        return 0U;
+    });
 }
 
 const char *f4memoPtr(Handle field)
@@ -105,16 +113,18 @@ const char *f4memoPtr(Handle field)
     if (!place || place.def().type != 'M')
         return nullptr;
     // f4memoLenVB, which everybody asks first, has reported a failure already
-    const Result<const std::string *> text = place.open->table.memo(place.position);
-    return text.ok() ? (*text)->c_str() : nullptr;
+    const char *const none = nullptr;
+    return withTable(place.open, none, [&](OpenTable &open) {
+        const Result<const std::string *> text = open.table.memo(place.position);
+        return text.ok() ? (*text)->c_str() : nullptr;
+    });
 }
 
 Code f4memoAssignN(Handle field, std::string_view text, std::uint32_t length)
 {
     const FieldPlace place(field);
-    return place ? answer(*place.open,
-                          place.open->table.assignMemo(place.position, text.substr(0, length)))
-                 : r4failure;
+    return place.change(
+        [&](Table &rows) { return rows.assignMemo(place.position, text.substr(0, length)); });
 }
 
 std::string date4format(std::string_view date, std::string_view picture)

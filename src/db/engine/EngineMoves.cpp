@@ -7,72 +7,61 @@ namespace norvane::engine
 
 Code d4top(Handle table)
 {
-    OpenTable *open = handleRegistry().table(table);
-    return open ? answer(*open, open->table.top()) : r4failure;
+    return answerOf(table, [&](Table &rows) { return rows.top(); });
 }
 
 Code d4bottom(Handle table)
 {
-    OpenTable *open = handleRegistry().table(table);
-    return open ? answer(*open, open->table.bottom()) : r4failure;
+    return answerOf(table, [&](Table &rows) { return rows.bottom(); });
 }
 
 Code d4skip(Handle table, std::int32_t count)
 {
-    OpenTable *open = handleRegistry().table(table);
-    return open ? answer(*open, open->table.skip(count)) : r4failure;
+    return answerOf(table, [&](Table &rows) { return rows.skip(count); });
 }
 
 Code d4go(Handle table, std::uint32_t record)
 {
-    OpenTable *open = handleRegistry().table(table);
-    return open ? answer(*open, open->table.go(record)) : r4failure;
+    return answerOf(table, [&](Table &rows) { return rows.go(record); });
 }
 
 Code d4seek(Handle table, std::string_view key)
 {
-    OpenTable *open = handleRegistry().table(table);
-    return open ? answer(*open, open->table.seek(key)) : r4failure;
+    return answerOf(table, [&](Table &rows) { return rows.seek(key); });
 }
 
 Code d4seekDouble(Handle table, double key)
 {
-    OpenTable *open = handleRegistry().table(table);
-    return open ? answer(*open, open->table.seek(key)) : r4failure;
+    return answerOf(table, [&](Table &rows) { return rows.seek(key); });
 }
 
 Code d4seekNext(Handle table, std::string_view key)
 {
-    OpenTable *open = handleRegistry().table(table);
-    return open ? answer(*open, open->table.seekNext(key)) : r4failure;
+    return answerOf(table, [&](Table &rows) { return rows.seekNext(key); });
 }
 
 Code d4seekNextDouble(Handle table, double key)
 {
-    OpenTable *open = handleRegistry().table(table);
-    return open ? answer(*open, open->table.seekNext(key)) : r4failure;
+    return answerOf(table, [&](Table &rows) { return rows.seekNext(key); });
 }
 
 Code d4lock(Handle table, std::uint32_t record)
 {
-    OpenTable *open = handleRegistry().table(table);
-    if (!open)
-        return r4failure;
-    const Status status = open->table.lock(record);
-    const bool refused = !status.ok() && status.error().kind == ErrorKind::Locked;
-    return answer(*open, status, refused ? Session::Answer::Expected : Session::Answer::Failure);
+    return withTable(handleRegistry().table(table), r4failure, [&](OpenTable &open) {
+        const Status status = open.table.lock(record);
+        const bool refused = !status.ok() && status.error().kind == ErrorKind::Locked;
+        return answer(open, status, refused ? Session::Answer::Expected : Session::Answer::Failure);
+    });
 }
 
 Code d4unlock(Handle table)
 {
-    OpenTable *open = handleRegistry().table(table);
-    return open ? answer(*open, open->table.unlock()) : r4failure;
+    return answerOf(table, [&](Table &rows) { return rows.unlock(); });
 }
 
 Code d4flush(Handle table)
 {
-    OpenTable *open = handleRegistry().table(table);
-    return open ? answer(*open, open->table.flush()) : r4failure;
+    return answerOf(table, [&](Table &rows) { return rows.flush(); });
 }
 
 void d4discard(Handle table)
@@ -83,8 +72,7 @@ void d4discard(Handle table)
 
 Code d4delete(Handle table)
 {
-    OpenTable *open = handleRegistry().table(table);
-    return open ? answer(*open, open->table.deleteRow()) : r4failure;
+    return answerOf(table, [&](Table &rows) { return rows.deleteRow(); });
 }
 
 bool d4deleted(Handle table)
@@ -95,26 +83,22 @@ bool d4deleted(Handle table)
 
 Code d4appendStartVB(Handle table, int /*useMemoEntries*/)
 {
-    OpenTable *open = handleRegistry().table(table);
-    return open ? answer(*open, open->table.startAppend()) : r4failure;
+    return answerOf(table, [&](Table &rows) { return rows.startAppend(); });
 }
 
 Code d4blank(Handle table)
 {
-    OpenTable *open = handleRegistry().table(table);
-    return open ? answer(*open, open->table.blank()) : r4failure;
+    return answerOf(table, [&](Table &rows) { return rows.blank(); });
 }
 
 Code d4append(Handle table)
 {
-    OpenTable *open = handleRegistry().table(table);
-    return open ? answer(*open, open->table.append()) : r4failure;
+    return answerOf(table, [&](Table &rows) { return rows.append(); });
 }
 
 Code d4reindex(Handle table)
 {
-    OpenTable *open = handleRegistry().table(table);
-    return open ? answer(*open, open->table.reindex()) : r4failure;
+    return answerOf(table, [&](Table &rows) { return rows.reindex(); });
 }
 
 } // namespace norvane::engine

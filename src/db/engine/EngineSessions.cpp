@@ -3,12 +3,19 @@
 #include "db/engine/HandleRegistry.h"
 #include "db/engine/Session.h"
 
+#include <new>
+
 namespace norvane::engine
 {
 
 Handle d4init_v(FileSystem *files)
 {
-    return handleRegistry().addSession(std::make_unique<Session>(files ? *files : systemFiles()));
+    try {
+        return handleRegistry().addSession(
+            std::make_unique<Session>(files ? *files : systemFiles()));
+    } catch (const std::bad_alloc &) {
+        return 0;
+    }
 }
 
 Code d4initUndo(Handle session)
@@ -16,11 +23,17 @@ Code d4initUndo(Handle session)
     Session *ending = handleRegistry().session(session);
     if (!ending)
         return r4failure;
-    const Status status = ending->closeAll();
-    if (!status.ok())
-        ending->note(status.error(), Session::Answer::Failure);
+    Code code = r4failure;
+    try {
+        const Status status = ending->closeAll();
+        if (!status.ok())
+            ending->note(status.error(), Session::Answer::Failure);
+        code = status.ok() ? r4success : r4failure;
+    } catch (const std::bad_alloc &) {
+        ending->noteNoMemory();
+    }
     handleRegistry().remove(session);
-    return status.ok() ? r4success : r4failure;
+    return code;
 }
 
 void code4accessMode(Handle session, int mode)

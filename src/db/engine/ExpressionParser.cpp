@@ -44,6 +44,7 @@ private:
     int makeSum(int left, int right);
     int add(ExpressionNode node);
     int fail(std::string_view problem);
+    int failNoField(std::string_view name);
 
     std::optional<int> constant(const Arguments &arguments, std::size_t place, int absent);
     const ExpressionNode &node(int place) const { return m_nodes[static_cast<std::size_t>(place)]; }
@@ -56,6 +57,7 @@ private:
     std::vector<int> m_depths; // of each node's own tree
     int m_nesting = 0;
     std::string m_problem;
+    ErrorKind m_kind = ErrorKind::Refused; // of the problem
 };
 
 Result<KeyExpression> ExpressionParser::parse()
@@ -64,8 +66,7 @@ Result<KeyExpression> ExpressionParser::parse()
     if (root != failed && m_tokens.current().kind != TokenKind::End)
         fail("something is left over at its end");
     if (!m_problem.empty())
-        return Error{
-            ErrorKind::Refused, {}, "expression \"" + std::string(m_text) + "\": " + m_problem};
+        return Error{m_kind, {}, "expression \"" + std::string(m_text) + "\": " + m_problem};
     return KeyExpression(std::move(m_nodes));
 }
 
@@ -74,6 +75,13 @@ int ExpressionParser::fail(std::string_view problem)
     if (m_problem.empty())
         m_problem = problem;
     return failed;
+}
+
+int ExpressionParser::failNoField(std::string_view name)
+{
+    if (m_problem.empty())
+        m_kind = ErrorKind::NotFound;
+    return fail("there is no field " + std::string(name));
 }
 
 int ExpressionParser::add(ExpressionNode made)
@@ -221,7 +229,7 @@ int ExpressionParser::parseField(std::string_view name)
 {
     const int place = m_layout.find(name);
     if (place < 0)
-        return fail("there is no field " + std::string(name));
+        return failNoField(name);
     const FieldDef &field = m_layout.fields[static_cast<std::size_t>(place)];
     ExpressionNode made;
     made.op = ExpressionOp::Field;

@@ -41,6 +41,10 @@ public:
     virtual bool readOnly() const = 0;
     // True on a network folder: others see what was written once it was synced under the lock.
     virtual bool onNetwork() { return false; }
+    // Gives a file just made the owner, group and rights of another one, as far as that is allowed.
+    virtual void takeRightsOf(const std::string & /*path*/) {}
+    // What other hosts wrote until now is what reads and size() tell from here on.
+    virtual Status freshen() { return {}; }
 };
 
 class FileSystem

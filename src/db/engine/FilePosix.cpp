@@ -51,6 +51,16 @@ Error systemError(int number, const std::string &path, const char *what, std::in
     return {kindOf(number), path, std::string(what) + ": " + std::strerror(number), place};
 }
 
+// Makes a call again for as long as a signal breaks it off.
+template <class Call>
+auto insistOn(Call call)
+{
+    auto result = call();
+    while (result < 0 && errno == EINTR)
+        result = call();
+    return result;
+}
+
 // Network folders show other hosts what was written at unlock only when it has been sent.
 bool liesOnNetwork(int descriptor)
 {
@@ -71,31 +81,41 @@ bool liesOnNetwork(int descriptor)
     }
 }
 
+bool sameOwners(const struct stat &a, const struct stat &b)
+{
+    return a.st_uid == b.st_uid && a.st_gid == b.st_gid;
+}
+
 class PosixFile final : public File
 {
 public:
-    PosixFile(int descriptor, std::string path, bool readOnly)
-        : m_descriptor(descriptor), m_path(std::move(path)), m_readOnly(readOnly)
-    {
-    }
+    PosixFile(std::string path, bool readOnly) : m_path(std::move(path)), m_readOnly(readOnly) {}
 
-    ~PosixFile() override { ::close(m_descriptor); }
+    ~PosixFile() override
+    {
+        if (m_descriptor >= 0)
+            ::close(m_descriptor);
+    }
 
     PosixFile(const PosixFile &) = delete;
     PosixFile &operator=(const PosixFile &) = delete;
+
+    // Takes over the open file. REQUIRES: none yet.
+    void adopt(int descriptor) { m_descriptor = descriptor; }
 
     Result<std::size_t> read(std::uint64_t offset, ByteSpan into) override
     {
         std::size_t done = 0;
         while (done < into.size()) {
             const auto place = static_cast<off_t>(offset + done);
-            const ssize_t n = ::pread(m_descriptor, into.data() + done, into.size() - done, place);
+            const ssize_t n = insistOn([&] {
+                return ::pread(m_descriptor, into.data() + done, into.size() - done, place);
+            });
+            if (n < 0)
+                return systemError(errno, m_path, "read", place);
             if (n == 0)
                 break;
-            if (n > 0)
-                done += static_cast<std::size_t>(n);
-            else if (errno != EINTR)
-                return systemError(errno, m_path, "read", place);
+            done += static_cast<std::size_t>(n);
         }
         return done;
     }
@@ -108,14 +128,12 @@ public:
         std::size_t done = 0;
         while (done < bytes.size()) {
             const auto place = static_cast<off_t>(offset + done);
-            const ssize_t n =
-                ::pwrite(m_descriptor, bytes.data() + done, bytes.size() - done, place);
-            if (n > 0)
-                done += static_cast<std::size_t>(n);
-            else if (n == 0)
-                return systemError(ENOSPC, m_path, "write", place);
-            else if (errno != EINTR)
-                return systemError(errno, m_path, "write", place);
+            const ssize_t n = insistOn([&] {
+                return ::pwrite(m_descriptor, bytes.data() + done, bytes.size() - done, place);
+            });
+            if (n <= 0)
+                return systemError(n < 0 ? errno : ENOSPC, m_path, "write", place);
+            done += static_cast<std::size_t>(n);
         }
         return {};
     }
@@ -123,7 +141,7 @@ public:
     Result<std::uint64_t> size() override
     {
         struct stat info = {};
-        if (::fstat(m_descriptor, &info) != 0)
+        if (insistOn([&] { return ::fstat(m_descriptor, &info); }) != 0)
             return systemError(errno, m_path, "size");
         return static_cast<std::uint64_t>(info.st_size);
     }
@@ -133,19 +151,15 @@ public:
         if (m_readOnly)
             return refusedWrite();
         m_unsynced = true;
-        while (::ftruncate(m_descriptor, static_cast<off_t>(size)) != 0) {
-            if (errno != EINTR)
-                return systemError(errno, m_path, "resize");
-        }
+        if (insistOn([&] { return ::ftruncate(m_descriptor, static_cast<off_t>(size)); }) != 0)
+            return systemError(errno, m_path, "resize");
         return {};
     }
 
     Status sync() override
     {
-        while (::fdatasync(m_descriptor) != 0) {
-            if (errno != EINTR)
-                return systemError(errno, m_path, "sync");
-        }
+        if (insistOn([&] { return ::fdatasync(m_descriptor); }) != 0)
+            return systemError(errno, m_path, "sync");
         m_unsynced = false;
         return {};
     }
@@ -166,6 +180,38 @@ public:
 
     const std::string &path() const override { return m_path; }
     bool readOnly() const override { return m_readOnly; }
+
+    // Network folders serve reads and the length from what they kept for a while.
+    Status freshen() override
+    {
+        if (!onNetwork())
+            return {};
+        struct statx info = {};
+        constexpr int how = AT_EMPTY_PATH | AT_STATX_FORCE_SYNC;
+        if (insistOn([&] { return ::statx(m_descriptor, "", how, STATX_SIZE, &info); }) != 0)
+            return systemError(errno, m_path, "size");
+        // A change within a tick of the server's clock shows in no attribute, so what was kept
+        // goes.
+        (void)::posix_fadvise(m_descriptor, 0, 0, POSIX_FADV_DONTNEED);
+        return {};
+    }
+
+    // Whoever may write the table must be able to write what is made beside it, whatever the umask
+    // here. A group that cannot be had is not given the rights of another.
+    void takeRightsOf(const std::string &path) override
+    {
+        struct stat theirs = {};
+        struct stat ours = {};
+        if (::stat(path.c_str(), &theirs) != 0 || ::fstat(m_descriptor, &ours) != 0)
+            return;
+        const bool taken = sameOwners(ours, theirs) ||
+                           ::fchown(m_descriptor, theirs.st_uid, theirs.st_gid) == 0 ||
+                           ::fchown(m_descriptor, ours.st_uid, theirs.st_gid) == 0;
+        const mode_t others = theirs.st_mode & 07;
+        const mode_t rights = taken ? theirs.st_mode & 0777 : (ours.st_mode & 0777) | others * 011;
+        if (rights != (ours.st_mode & 0777))
+            (void)::fchmod(m_descriptor, rights);
+    }
 
     bool onNetwork() override
     {
@@ -190,18 +236,16 @@ private:
         range.l_start = static_cast<off_t>(offset);
         range.l_len = static_cast<off_t>(length);
         const auto place = static_cast<std::int64_t>(offset);
-        while (::fcntl(m_descriptor, F_OFD_SETLK, &range) != 0) {
-            if (errno == EAGAIN || errno == EACCES)
-                return Error{ErrorKind::Locked, m_path, "held by another session", place};
-            if (errno == EBADF && m_readOnly)
-                return refusedWrite();
-            if (errno != EINTR)
-                return systemError(errno, m_path, "lock", place);
-        }
-        return {};
+        if (insistOn([&] { return ::fcntl(m_descriptor, F_OFD_SETLK, &range); }) == 0)
+            return {};
+        if (errno == EAGAIN || errno == EACCES)
+            return Error{ErrorKind::Locked, m_path, "held by another session", place};
+        if (errno == EBADF && m_readOnly)
+            return refusedWrite();
+        return systemError(errno, m_path, "lock", place);
     }
 
-    int m_descriptor;
+    int m_descriptor = -1;
     std::string m_path;
     bool m_readOnly;
     bool m_unsynced = false;
@@ -253,12 +297,13 @@ public:
             flags |= O_RDONLY;
         else
             flags |= mode == OpenMode::CreateNew ? O_RDWR | O_CREAT | O_EXCL : O_RDWR;
-        int descriptor = ::open(path.c_str(), flags, 0666);
-        while (descriptor < 0 && errno == EINTR)
-            descriptor = ::open(path.c_str(), flags, 0666);
-        if (descriptor >= 0)
-            return std::unique_ptr<File>(
-                std::make_unique<PosixFile>(descriptor, path, mode == OpenMode::ReadOnly));
+        // made first: a descriptor must not get lost when there is no memory for its object
+        auto file = std::make_unique<PosixFile>(path, mode == OpenMode::ReadOnly);
+        const int descriptor = insistOn([&] { return ::open(path.c_str(), flags, 0666); });
+        if (descriptor >= 0) {
+            file->adopt(descriptor);
+            return std::unique_ptr<File>(std::move(file));
+        }
         Error error = systemError(errno, path, "open");
         if (mode == OpenMode::ReadOnly && error.kind == ErrorKind::ReadOnly)
             error.kind = ErrorKind::Io; // not even reading is allowed
@@ -288,7 +333,7 @@ public:
 
     Status rename(const std::string &from, const std::string &to) override
     {
-        if (::rename(from.c_str(), to.c_str()) != 0)
+        if (insistOn([&] { return ::rename(from.c_str(), to.c_str()); }) != 0)
             return systemError(errno, from, "rename");
         syncFolder(to);
         return {};
@@ -296,7 +341,7 @@ public:
 
     Status remove(const std::string &path) override
     {
-        if (::unlink(path.c_str()) != 0)
+        if (insistOn([&] { return ::unlink(path.c_str()); }) != 0)
             return systemError(errno, path, "remove");
         return {};
     }

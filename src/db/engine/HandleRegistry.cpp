@@ -37,6 +37,8 @@ Handle HandleRegistry::add(Slot slot)
         if (m_slots.size() == kMostSlots)
             return 0;
         number = static_cast<std::uint32_t>(m_slots.size());
+        if (m_free.capacity() <= m_slots.size()) // giving a handle back takes no memory
+            m_free.reserve(2 * m_slots.size() + 16);
         m_slots.push_back(std::move(slot));
     }
     return static_cast<Handle>(std::uint32_t{m_slots[number].generation} << kSlotBits | number);

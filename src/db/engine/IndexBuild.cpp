@@ -47,7 +47,7 @@ public:
 
 private:
     Error misuse(const char *detail) const { return {ErrorKind::Misuse, m_target.path(), detail}; }
-    Status writeTree(const TreeShape &shape, KeyList &keys);
+    Status writeTree(const TreeShape &shape, KeyList &keys, bool unique);
     ByteSpan front(std::size_t offset, std::size_t length)
     {
         return ByteSpan(m_front).subspan(offset, length);
@@ -90,6 +90,8 @@ Status IndexBuilder::addTag(const TagDef &def)
     header.keyLength = static_cast<std::uint16_t>(key->keyLength());
     header.expression = def.expression;
     header.filter = def.filter;
+    header.unique = def.unique;
+    header.descending = def.descending;
     m_tags.push_back({name, header, std::move(*key), std::move(filter), KeyList(header.keyLength)});
     return {};
 }
@@ -130,22 +132,24 @@ Status IndexBuilder::write()
         encodeTagHeader(front(at, headerSize), tag.header);
         std::copy(tag.name.begin(), tag.name.end(), names.add(at));
         const TreeShape shape{tag.header.root, tag.header.keyLength, tag.key.padByte()};
-        if (Status written = writeTree(shape, tag.keys); !written.ok())
+        if (Status written = writeTree(shape, tag.keys, tag.header.unique); !written.ok())
             return written;
     }
     const TreeShape directory{headerSize, directoryKeyLength, ' '};
     encodeDirectoryHeader(front(0, headerSize), directory.root);
-    if (Status written = writeTree(directory, names); !written.ok())
+    if (Status written = writeTree(directory, names, false); !written.ok())
         return written;
     return m_target.write(0, m_front);
 }
 
-Status IndexBuilder::writeTree(const TreeShape &shape, KeyList &keys)
+Status IndexBuilder::writeTree(const TreeShape &shape, KeyList &keys, bool unique)
 {
     keys.sort();
     TreeBuilder tree(shape, m_next);
-    for (std::size_t i = 0; i < keys.size(); ++i)
-        tree.add(keys.key(i), keys.record(i));
+    for (std::size_t i = 0; i < keys.size(); ++i) {
+        if (!unique || i == 0 || keys.key(i) != keys.key(i - 1))
+            tree.add(keys.key(i), keys.record(i));
+    }
     keys.clear();
     tree.finish();
     std::copy(tree.root().begin(), tree.root().end(), front(shape.root, indexPageSize).begin());

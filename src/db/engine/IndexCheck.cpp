@@ -12,7 +12,8 @@ namespace norvane::engine
 namespace
 {
 
-constexpr std::size_t mostFindings = 20; // of one tag; more only say the same again
+constexpr std::size_t freeFieldPlace = 4; // in a header page
+constexpr std::size_t mostFindings = 20;  // of one tag; more only say the same again
 
 // What went wrong, collected under the name of a tag.
 class Findings
@@ -153,6 +154,16 @@ public:
     // False when the page is outside the file or in use already; says so.
     bool use(std::uint32_t offset);
     void check(const TreeShape &shape, HeldKeys &held);
+    // The header page at `offset` with its expressions: the field in which other programs keep
+    // free pages, of which none may be in use.
+    void useHeader(std::uint32_t offset);
+    // The pages that the header fields seen name. Our own chain needs no check: a page is only
+    // taken from it when it is a free one.
+    void useForeignFree()
+    {
+        for (const std::uint32_t offset : m_foreignFree)
+            use(offset);
+    }
 
 private:
     // Pages of a level and, but for the root, the last pairs their parents name.
@@ -169,6 +180,7 @@ private:
     IndexPages &m_pages;
     Findings &m_findings;
     std::vector<bool> m_used;
+    std::vector<std::uint32_t> m_foreignFree;
     std::optional<IndexEntry> m_before; // the entry before on the level being checked
 };
 
@@ -184,6 +196,18 @@ bool TreeChecker::use(std::uint32_t offset)
         return false;
     }
     return m_used[page] = true;
+}
+
+void TreeChecker::useHeader(std::uint32_t offset)
+{
+    use(offset);
+    use(offset + static_cast<std::uint32_t>(indexPageSize));
+    RawPage raw;
+    if (!m_pages.readRaw(offset, raw).ok())
+        return; // outside the file, as was said
+    const std::uint32_t free = getLe32(&raw[freeFieldPlace]);
+    if (free != 0 && free != noPage)
+        m_foreignFree.push_back(free);
 }
 
 std::optional<IndexPage> TreeChecker::readPage(std::uint32_t offset, const TreeShape &shape)
@@ -314,21 +338,22 @@ Result<std::vector<std::string>> checkIndex(IndexFile &index, const RowSource &r
     TreeChecker checker(impl.pages, structure);
     structure.begin("tag directory");
     HeldKeys names;
-    checker.use(0);
-    checker.use(indexPageSize);
+    checker.useHeader(0);
     checker.check(impl.directory, names);
     structure.end();
     for (std::size_t i = 0; i < impl.tags.size(); ++i) {
         const std::string name = "tag " + impl.infos[i].name;
         structure.begin(name);
-        checker.use(impl.tags[i].header);
-        checker.use(impl.tags[i].header + static_cast<std::uint32_t>(indexPageSize));
+        checker.useHeader(impl.tags[i].header);
         checker.check(impl.tags[i].shape, held[i]);
         if (const std::uint32_t twice = held[i].sort())
             structure.addRecord(twice, "has more than one key");
         structure.end();
         findings[i].begin(name);
     }
+    structure.begin("free pages");
+    checker.useForeignFree();
+    structure.end();
     if (Status read = checkRows(impl.tags, impl.infos, impl.recordLength, held, rows, findings);
         !read.ok())
         return read.error();

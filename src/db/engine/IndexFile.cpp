@@ -5,6 +5,7 @@
 #include "db/engine/IndexHeader.h"
 #include "db/engine/IndexTree.h"
 #include "db/engine/KeyEncoding.h"
+#include "db/engine/TagList.h"
 
 #include <algorithm>
 #include <array>
@@ -35,6 +36,8 @@ KeyType keyTypeOf(ValueType type)
 
 Error placed(Error error, const File &file, std::uint64_t place)
 {
+    if (error.kind == ErrorKind::NotFound)
+        error.kind = ErrorKind::Damaged; // a tag over fields of another table
     error.file = file.path();
     error.place = static_cast<std::int64_t>(place);
     return error;
@@ -47,7 +50,7 @@ std::string_view withoutBlanks(std::string_view name)
 
 } // namespace
 
-Status IndexFile::Impl::readDirectory(const RowLayout &layout)
+Status IndexFile::Impl::listTags(Listed &found)
 {
     std::array<Byte, headerSize> bytes{};
     if (Status read = pages.readRaw(0, bytes); !read.ok())
@@ -58,7 +61,6 @@ Status IndexFile::Impl::readDirectory(const RowLayout &layout)
     directory = {header->root, directoryKeyLength, ' '};
     IndexTree tree(pages, directory);
     TreePath path;
-    std::vector<std::pair<std::uint32_t, std::string>> found;
     std::string key;
     for (std::uint32_t record = 0;;) {
         const Result<bool> more = tree.seek(key, record, path);
@@ -73,6 +75,14 @@ Status IndexFile::Impl::readDirectory(const RowLayout &layout)
         found.emplace_back(record++, withoutBlanks(key));
     }
     std::sort(found.begin(), found.end());
+    return {};
+}
+
+Status IndexFile::Impl::readDirectory(const RowLayout &layout)
+{
+    Listed found;
+    if (Status listed = listTags(found); !listed.ok())
+        return listed;
     for (const auto &[at, name] : found) {
         if (Status read = readTag(name, at, layout); !read.ok())
             return read;
@@ -110,7 +120,7 @@ Status IndexFile::Impl::readTag(std::string_view name, std::uint32_t at, const R
             return pages.damaged("two tags share a page", at);
     }
     infos.push_back({std::string(name), header->expression, header->filter, keyTypeOf(key->type()),
-                     header->keyLength});
+                     header->keyLength, header->unique, header->descending});
     const TreeShape shape{header->root, header->keyLength, key->padByte()};
     tags.push_back({at, shape, header->unique, std::move(*key), std::move(filter)});
     return {};
@@ -148,6 +158,22 @@ Result<std::unique_ptr<IndexFile>> IndexFile::open(std::shared_ptr<File> file,
         return read.error();
     impl->pages.distrust();
     return std::unique_ptr<IndexFile>(new IndexFile(std::move(impl)));
+}
+
+SalvagedTags IndexFile::salvage(std::shared_ptr<File> file, const RowLayout &layout)
+{
+    SalvagedTags salvaged;
+    Impl impl(std::move(file));
+    Impl::Listed found;
+    if (!impl.pages.refresh().ok() || !impl.listTags(found).ok())
+        return salvaged;
+    for (const auto &[at, name] : found) {
+        const Status read = impl.readTag(name, at, layout);
+        if (!read.ok() && read.error().kind == ErrorKind::Refused)
+            salvaged.refused.push_back(name);
+    }
+    salvaged.tags = asDefs(impl.infos);
+    return salvaged;
 }
 
 const std::vector<TagInfo> &IndexFile::tags() const
@@ -231,15 +257,35 @@ std::optional<std::string> IndexFile::soughtKey(int tag, double number) const
     return key;
 }
 
+bool IndexFile::unchanged()
+{
+    return m_impl->pages.unchanged();
+}
+
 Status IndexFile::refresh()
 {
     return m_impl->pages.refresh();
 }
 
+std::uint32_t IndexFile::counter() const
+{
+    return m_impl->pages.counter();
+}
+
+Status IndexFile::checkRoots()
+{
+    for (const IndexTag &tag : m_impl->tags) {
+        const Result<IndexPage *> root = m_impl->pages.fetch(tag.shape.root, tag.shape);
+        if (!root.ok())
+            return root.error();
+    }
+    return {};
+}
+
 namespace
 {
 
-std::vector<IndexEntry> entriesOf(const IndexLeaf &leaf, std::size_t first, std::size_t end)
+std::vector<IndexEntry> copied(const IndexLeaf &leaf, std::size_t first, std::size_t end)
 {
     std::vector<IndexEntry> entries;
     entries.reserve(end - first);
@@ -250,23 +296,48 @@ std::vector<IndexEntry> entriesOf(const IndexLeaf &leaf, std::size_t first, std:
 
 } // namespace
 
-Result<std::vector<IndexEntry>> IndexFile::entriesFrom(int tag, std::string_view key,
-                                                       std::uint32_t record, std::size_t most)
+// The leaf with the first entry >= (key, record), and that entry; null at the end of the tag.
+Result<const IndexLeaf *> IndexFile::Impl::leafAt(int tag, std::string_view key,
+                                                  std::uint32_t record, std::size_t &entry)
 {
-    if (Status known = m_impl->checkTag(tag); !known.ok())
+    if (Status known = checkTag(tag); !known.ok())
         return known.error();
-    m_impl->pages.trim();
+    pages.trim();
     TreePath path;
-    const Result<bool> found =
-        IndexTree(m_impl->pages, m_impl->at(tag).shape).seek(key, record, path);
+    const Result<bool> found = IndexTree(pages, at(tag).shape).seek(key, record, path);
     if (!found.ok())
         return found.error();
     if (!*found)
+        return static_cast<const IndexLeaf *>(nullptr);
+    entry = path.leaf().entry;
+    return static_cast<const IndexLeaf *>(&path.leaf().page->leaf);
+}
+
+Result<std::vector<IndexEntry>> IndexFile::entriesFrom(int tag, std::string_view key,
+                                                       std::uint32_t record, std::size_t most)
+{
+    std::size_t first = 0;
+    const Result<const IndexLeaf *> leaf = m_impl->leafAt(tag, key, record, first);
+    if (!leaf.ok())
+        return leaf.error();
+    if (!*leaf)
         return std::vector<IndexEntry>();
-    const IndexLeaf &leaf = path.leaf().page->leaf;
-    const std::size_t first = path.leaf().entry;
-    const std::size_t end = first + std::min(most, leaf.count() - first);
-    return entriesOf(leaf, first, end);
+    return copied(**leaf, first, first + std::min(most, (*leaf)->count() - first));
+}
+
+Result<std::vector<IndexEntry>> IndexFile::entriesOf(int tag, std::string_view key,
+                                                     std::size_t most)
+{
+    std::size_t first = 0;
+    const Result<const IndexLeaf *> leaf = m_impl->leafAt(tag, key, 0, first);
+    if (!leaf.ok())
+        return leaf.error();
+    if (!*leaf)
+        return std::vector<IndexEntry>();
+    std::size_t end = first;
+    while (end < (*leaf)->count() && end - first < most && (*leaf)->key(end).starts_with(key))
+        ++end;
+    return copied(**leaf, first, std::min(end + 1, (*leaf)->count()));
 }
 
 Result<std::vector<IndexEntry>> IndexFile::entriesBefore(int tag, std::string_view key,
@@ -285,7 +356,7 @@ Result<std::vector<IndexEntry>> IndexFile::entriesBefore(int tag, std::string_vi
     const IndexLeaf &leaf = path.leaf().page->leaf;
     const std::size_t end = path.leaf().entry + 1;
     const std::size_t first = end - std::min(most, end);
-    return entriesOf(leaf, first, end);
+    return copied(leaf, first, end);
 }
 
 Status IndexFile::insert(int tag, std::string_view key, std::uint32_t record)

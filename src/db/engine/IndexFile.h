@@ -40,6 +40,14 @@ struct TagInfo {
     std::string filter;
     KeyType keyType = KeyType::Character;
     std::uint16_t keyLength = 0; // bytes
+    bool unique = false;         // keeps the first record of equal keys
+    bool descending = false;     // shown backwards by programs that care
+};
+
+// Tags of a file that cannot be used as it is, as far as they can be read.
+struct SalvagedTags {
+    std::vector<TagDef> tags;
+    std::vector<std::string> refused; // names of tags outside what this engine supports
 };
 
 class IndexFile
@@ -51,6 +59,7 @@ public:
     static Result<std::unique_ptr<IndexFile>> open(std::shared_ptr<File> file,
                                                    const RowLayout &layout);
     ~IndexFile();
+    static SalvagedTags salvage(std::shared_ptr<File> file, const RowLayout &layout);
 
     const std::vector<TagInfo> &tags() const; // in creation order
     int findTag(std::string_view name) const; // -1 when there is none; case does not matter
@@ -66,10 +75,19 @@ public:
 
     // Drops cached pages when the file changed since they were read.
     Status refresh();
+    // True when the file is known not to have changed since.
+    bool unchanged();
+    // The file's change counter as of the last refresh().
+    std::uint32_t counter() const;
+    // Damaged when the root of a tag makes no sense.
+    Status checkRoots();
     // The entries of one leaf from the first one >= (key, record) on, at most `most`; empty at the
     // end of the tag. A key shorter than the tag's stands before all that begin with it.
     Result<std::vector<IndexEntry>> entriesFrom(int tag, std::string_view key, std::uint32_t record,
                                                 std::size_t most = SIZE_MAX);
+    // Of the entries that begin with the key those in the first leaf, at most `most`, and the one
+    // behind them; without any the first behind the key.
+    Result<std::vector<IndexEntry>> entriesOf(int tag, std::string_view key, std::size_t most);
     // The last entries of the tag that are < (key, record), in ascending order, at most `most`.
     Result<std::vector<IndexEntry>>
     entriesBefore(int tag, std::string_view key, std::uint32_t record, std::size_t most = SIZE_MAX);

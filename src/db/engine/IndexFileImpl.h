@@ -6,6 +6,9 @@
 #include "db/engine/KeyExpression.h"
 
 #include <optional>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace norvane::engine
 {
@@ -23,10 +26,15 @@ struct IndexTag {
 struct IndexFile::Impl {
     explicit Impl(std::shared_ptr<File> opened) : file(opened), pages(std::move(opened)) {}
 
+    // A tag's header offset and name.
+    using Listed = std::vector<std::pair<std::uint32_t, std::string>>;
+    Status listTags(Listed &found);
     Status readDirectory(const RowLayout &layout);
     Status readTag(std::string_view name, std::uint32_t at, const RowLayout &layout);
     Status checkTag(int tag) const;
     Status checkKey(int tag, std::string_view keyBytes) const;
+    Result<const IndexLeaf *> leafAt(int tag, std::string_view key, std::uint32_t record,
+                                     std::size_t &entry);
     IndexTag &at(int tag) { return tags[static_cast<std::size_t>(tag)]; }
     const IndexTag &at(int tag) const { return tags[static_cast<std::size_t>(tag)]; }
 

@@ -120,7 +120,10 @@ void encodeTagHeader(ByteSpan bytes, const IndexHeader &header)
     unsigned options = compact | compound;
     if (!header.filter.empty())
         options |= hasFilter;
+    if (header.unique)
+        options |= uniqueKeys;
     putHeader(bytes, header.root, header.keyLength, options, header.expression, header.filter);
+    putLe16(&bytes[orderPlace], header.descending ? 1 : 0);
 }
 
 void encodeDirectoryHeader(ByteSpan bytes, std::uint32_t root)

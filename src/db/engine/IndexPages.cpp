@@ -44,6 +44,11 @@ Error IndexPages::damaged(std::string detail, std::uint64_t place) const
             static_cast<std::int64_t>(place)};
 }
 
+std::uint32_t IndexPages::counter() const
+{
+    return getBe32(&m_header[counterPlace]);
+}
+
 bool IndexPages::plausible(std::uint64_t offset) const
 {
     return offset % indexPageSize == 0 && offset >= 2 * indexPageSize &&
@@ -84,16 +89,17 @@ Status IndexPages::refresh()
 {
     if (changed() || m_broken)
         return Error{ErrorKind::Misuse, m_file->path(), "index changes were not committed"};
-    if (!m_known)
-        return load();
+    return unchanged() ? Status() : load();
+}
+
+bool IndexPages::unchanged()
+{
+    if (!m_known || changed() || m_broken)
+        return false;
     std::array<Byte, headLength> head{};
     const Result<std::size_t> got = m_file->read(0, head);
-    if (!got.ok())
-        return got.error();
-    if (*got < head.size())
-        return damaged("an index file is too short", 0);
-    const bool same = std::equal(head.begin(), head.end(), m_header.begin());
-    return same ? Status() : load();
+    return got.ok() && *got == head.size() &&
+           std::equal(head.begin(), head.end(), m_header.begin());
 }
 
 Status IndexPages::readRaw(std::uint64_t offset, ByteSpan into)
@@ -113,8 +119,7 @@ Status IndexPages::readRaw(std::uint64_t offset, ByteSpan into)
 
 Result<IndexPage *> IndexPages::fetch(std::uint32_t offset, const TreeShape &shape)
 {
-    if (const auto found = m_pages.find(offset); found != m_pages.end()) {
-        IndexPage *page = found->second.get();
+    if (IndexPage *page = m_pages.find(offset)) {
         if (page->kind == PageKind::Free || page->root != shape.root)
             return damaged("a page belongs to two trees", offset);
         return page;
@@ -130,13 +135,15 @@ Result<IndexPage *> IndexPages::fetch(std::uint32_t offset, const TreeShape &sha
     if (const Status decoded = decodePage(raw, *page); !decoded.ok())
         return damaged(decoded.error().detail, offset);
     m_cachedBytes += memoryOf(*page);
-    return m_pages.emplace(offset, std::move(page)).first->second.get();
+    std::unique_ptr<IndexPage> &slot = m_pages.slot(offset);
+    slot = std::move(page);
+    return slot.get();
 }
 
 IndexPage *IndexPages::makePage(std::uint32_t offset, PageKind kind, const TreeShape &shape)
 {
     auto page = std::make_unique<IndexPage>(offset, kind, shape);
-    std::unique_ptr<IndexPage> &slot = m_pages[offset];
+    std::unique_ptr<IndexPage> &slot = m_pages.slot(offset);
     page->fresh = true;
     page->dirty = slot && slot->dirty; // a page freed by this very change is listed already
     slot = std::move(page);
@@ -173,10 +180,10 @@ bool IndexPages::takeFreePage(std::uint32_t &offset)
     if (offset == 0 || !plausible(offset))
         return false;
     std::uint32_t next = 0;
-    if (const auto found = m_pages.find(offset); found != m_pages.end()) {
-        if (found->second->kind != PageKind::Free)
+    if (const IndexPage *page = m_pages.find(offset)) {
+        if (page->kind != PageKind::Free)
             return false;
-        next = found->second->nextFree;
+        next = page->nextFree;
     } else {
         RawPage raw;
         if (!readRaw(offset, raw).ok() || !decodeFreePage(raw, next))
@@ -198,7 +205,7 @@ void IndexPages::trim()
 {
     if (m_cachedBytes < mostCachedBytes)
         return;
-    std::erase_if(m_pages, [](const auto &entry) { return !entry.second->dirty; });
+    m_pages.eraseIf([](const IndexPage &page) { return !page.dirty; });
     m_cachedBytes = 0;
 }
 
@@ -206,7 +213,7 @@ std::vector<const IndexPage *> IndexPages::changedPages() const
 {
     std::vector<const IndexPage *> pages;
     for (const std::uint32_t offset : m_dirty)
-        pages.push_back(m_pages.at(offset).get());
+        pages.push_back(&m_pages.at(offset));
     std::sort(pages.begin(), pages.end(), [](const IndexPage *a, const IndexPage *b) {
         const int rankA = writingRank(*a), rankB = writingRank(*b);
         return rankA != rankB ? rankA < rankB : a->offset < b->offset;
@@ -244,7 +251,7 @@ Status IndexPages::commit()
     if (!changed())
         return {};
     for (const std::uint32_t offset : m_dirty) {
-        const IndexPage &page = *m_pages.at(offset);
+        const IndexPage &page = m_pages.at(offset);
         if (page.kind == PageKind::Interior && !page.interior.rises()) {
             forget();
             return damaged("a change would put the keys of a page out of order", offset);
@@ -267,7 +274,7 @@ void IndexPages::written(const std::vector<PageChange> &list)
         return;
     std::copy(list.back().bytes.begin(), list.back().bytes.end(), m_header.begin());
     for (const std::uint32_t offset : m_dirty) {
-        IndexPage &page = *m_pages.at(offset);
+        IndexPage &page = m_pages.at(offset);
         page.dirty = page.fresh = false;
     }
     m_dirty.clear();

@@ -4,13 +4,12 @@
 #pragma once
 
 #include "db/engine/File.h"
-#include "db/engine/IndexPage.h"
+#include "db/engine/IndexPageTable.h"
 #include "db/engine/Status.h"
 
 #include <array>
 #include <cstdint>
 #include <memory>
-#include <unordered_map>
 #include <vector>
 
 namespace norvane::engine
@@ -32,9 +31,12 @@ public:
     // Reads the file's head and forgets all pages when its change counter moved.
     // Misuse with changes that are neither committed nor discarded.
     Status refresh();
+    // True when the change counter is known to stand and there are no changes here either.
+    bool unchanged();
     // Makes the next refresh() read everything again (after reading without a lock).
     void distrust() { m_known = false; }
     ByteView header() const { return m_header; } // the directory's header page
+    std::uint32_t counter() const; // the file's change counter, as last read or written
     std::uint64_t size() const { return m_size; }
     std::uint32_t freeHead() const { return m_freeHead; }
     // Bytes of a page as they are in the file (a short file is Damaged).
@@ -64,8 +66,6 @@ public:
     Error damaged(std::string detail, std::uint64_t place) const;
 
 private:
-    using PageMap = std::unordered_map<std::uint32_t, std::unique_ptr<IndexPage>>;
-
     Status load();
     void forget();
     bool plausible(std::uint64_t offset) const;
@@ -83,7 +83,7 @@ private:
     std::uint32_t m_freeHead = 0;
     std::uint32_t m_committedFreeHead = 0;
     std::vector<Byte> m_front; // start of the file, read along with the header
-    PageMap m_pages;
+    IndexPageTable m_pages;
     std::vector<std::uint32_t> m_dirty; // offsets of changed pages
     std::size_t m_cachedBytes = 0;
 };

@@ -129,6 +129,8 @@ Result<Journal::State> Journal::read(JournalHeader &header, bool readOnly)
         if (!file.ok())
             return file.error();
         m_file = std::move(*file);
+    } else if (Status status = m_file->freshen(); !status.ok()) {
+        return status.error();
     }
     HeaderBytes bytes{};
     const Result<std::size_t> got = m_file->read(0, bytes);
@@ -140,7 +142,7 @@ Result<Journal::State> Journal::read(JournalHeader &header, bool readOnly)
     return blank ? State::Missing : State::Damaged;
 }
 
-Status Journal::create(const JournalHeader &header, bool fullLength)
+Status Journal::create(const JournalHeader &header, bool fullLength, const std::string &table)
 {
     if (!m_file) {
         Result<std::unique_ptr<File>> file = m_system.open(m_path, OpenMode::CreateNew);
@@ -148,6 +150,7 @@ Status Journal::create(const JournalHeader &header, bool fullLength)
             m_file = std::move(*file);
         else if (Status status = reopen(); !status.ok()) // one that was never finished
             return file.error();
+        m_file->takeRightsOf(table);
     }
     // Room for the records is taken now: a sync that need not lengthen the file is much quicker.
     Status status;

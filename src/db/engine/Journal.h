@@ -59,8 +59,9 @@ public:
     // Reads the header; opens the file when that has not been done. A file without a single byte
     // but zeros was not finished and counts as missing.
     Result<State> read(JournalHeader &header, bool readOnly);
-    // Makes the file in its full length (or just its header) and puts it on the medium.
-    Status create(const JournalHeader &header, bool fullLength);
+    // Makes the file in its full length (or just its header), with the rights of the table, and
+    // puts it on the medium.
+    Status create(const JournalHeader &header, bool fullLength, const std::string &table);
     Status write(const JournalHeader &header);
     Status sync();
     // A sync that failed is never tried again on the same open file.

@@ -3,7 +3,8 @@
 //   field names; "text" 'text'; numbers; .T. .F.; ( )
 //   UPPER LOWER TRIM RTRIM LTRIM ALLTRIM LEFT SUBSTR STR DTOS EMPTY DELETED
 //   + (texts or numbers), = == <> != # < <= > >=, .AND. .OR. .NOT. (also without the points, and !)
-// "=" compares texts as far as the right side reaches. Anything else is ErrorKind::Refused.
+// "=" compares texts as far as the right side reaches. Anything else is ErrorKind::Refused,
+// a field that the table does not have ErrorKind::NotFound.
 #pragma once
 
 #include "db/engine/Bytes.h"

@@ -23,6 +23,8 @@ Status LockedFile::tryLock(std::uint64_t place, LockMode mode)
 {
     Count *count = find(place);
     const bool enough = count && (count->exclusive > 0 || mode == LockMode::Shared);
+    if (!count)
+        m_counts.reserve(m_counts.size() + 1); // a byte is never held and not counted
     if (!enough) {
         if (Status status = m_file->tryLock(place, 1, mode); !status.ok())
             return status;
@@ -41,8 +43,13 @@ Status LockedFile::unlock(std::uint64_t place, LockMode mode)
     int &taken = mode == LockMode::Shared ? count->shared : count->exclusive;
     if (taken == 0 || --taken > 0 || count->exclusive > 0)
         return {};
-    if (count->shared > 0)
-        return m_file->tryLock(place, 1, LockMode::Shared);
+    if (count->shared > 0) {
+        // Others see what was written once the byte is no longer exclusive, as with an unlock.
+        const Status synced =
+            m_file->onNetwork() && !m_file->readOnly() ? m_file->sync() : Status();
+        Status lowered = m_file->tryLock(place, 1, LockMode::Shared);
+        return synced.ok() ? lowered : synced;
+    }
     m_counts.erase(m_counts.begin() + (count - m_counts.data()));
     return m_file->unlock(place, 1);
 }

@@ -15,6 +15,15 @@ constexpr std::size_t kHeader = 512;
 constexpr std::uint16_t kNewBlockSize = 64;
 constexpr std::size_t kBlockHead = 8; // kind and length before each text
 constexpr std::uint32_t kTextKind = 1;
+constexpr std::size_t kAhead = 64 * 1024;  // bytes read in one go
+constexpr std::uint64_t kNear = 16 * 1024; // to the next text, when they are read in order
+// A header that counts further behind the end of the file than this is not believed.
+constexpr std::uint64_t kMostCut = 64 * 1024 * 1024; // bytes
+
+bool holdsText(ByteView bytes)
+{
+    return bytes.size() >= kBlockHead && bytes.size() - kBlockHead >= getBe32(&bytes[4]);
+}
 
 } // namespace
 
@@ -61,12 +70,50 @@ Result<std::uint32_t> MemoFile::blockLength(std::uint32_t block, ByteView start,
     return length;
 }
 
-Result<std::string> MemoFile::read(std::uint32_t block)
+// The bytes from `at` on as far as they are known; none when the texts are not read in order, or
+// when this one is longer than what is read ahead.
+Result<ByteView> MemoFile::lookAhead(Ahead &ahead, std::uint64_t at)
+{
+    const bool inOrder = at > ahead.last && at - ahead.last <= kNear;
+    ahead.last = at;
+    if (at >= ahead.first && at - ahead.first < ahead.bytes.size()) {
+        const ByteView held = ByteView(ahead.bytes).subspan(at - ahead.first);
+        if (holdsText(held))
+            return held;
+    }
+    if (!inOrder)
+        return ByteView();
+    if (Status status = m_file->freshen(); !status.ok())
+        return status.error();
+    ahead.bytes.resize(kAhead);
+    const Result<std::size_t> got = m_file->read(at, ahead.bytes);
+    ahead.bytes.resize(got.ok() ? *got : 0);
+    ahead.first = at;
+    if (!got.ok())
+        return got.error();
+    return holdsText(ahead.bytes) ? ByteView(ahead.bytes) : ByteView();
+}
+
+Status MemoFile::read(std::uint32_t block, std::string &text, Ahead *ahead)
 {
     if (Status status = readBlockSize(); !status.ok())
-        return status.error();
-    // Most texts are short: one read brings head and text.
+        return status;
     const std::uint64_t at = std::uint64_t{block} * m_blockSize;
+    if (ahead) {
+        const Result<ByteView> held = lookAhead(*ahead, at);
+        if (!held.ok())
+            return held.error();
+        if (!held->empty()) {
+            const Result<std::uint32_t> length = blockLength(block, *held, at + held->size());
+            if (!length.ok())
+                return length.error();
+            text.assign(asText(held->subspan(kBlockHead, *length)));
+            return {};
+        }
+    }
+    if (Status status = m_file->freshen(); !status.ok())
+        return status;
+    // Most texts are short: one read brings head and text.
     std::array<Byte, 2048> start;
     const Result<std::size_t> got = m_file->read(at, start);
     if (!got.ok())
@@ -82,22 +129,32 @@ Result<std::string> MemoFile::read(std::uint32_t block)
     if (!length.ok())
         return length.error();
 
-    std::string text(*length, '\0');
-    const std::size_t here = std::min(text.size(), *got - kBlockHead);
-    std::copy_n(start.begin() + kBlockHead, here, text.begin());
-    if (here < text.size()) {
-        const ByteSpan rest(reinterpret_cast<Byte *>(text.data()) + here, text.size() - here);
-        const Result<std::size_t> more = m_file->read(at + kBlockHead + here, rest);
-        if (!more.ok())
-            return more.error();
-        if (*more < rest.size())
-            return Error{ErrorKind::Damaged, path(), "a memo is longer than the memo file",
-                         static_cast<std::int64_t>(at)};
-    }
-    return text;
+    const ByteView inside = ByteView(start).first(*got).subspan(kBlockHead);
+    text.assign(asText(inside.first(std::min<std::size_t>(*length, inside.size()))));
+    if (text.size() == *length)
+        return {};
+    const std::size_t here = text.size();
+    text.resize(*length);
+    const ByteSpan rest(reinterpret_cast<Byte *>(text.data()) + here, text.size() - here);
+    const Result<std::size_t> more = m_file->read(at + kBlockHead + here, rest);
+    if (!more.ok())
+        return more.error();
+    if (*more < rest.size())
+        return Error{ErrorKind::Damaged, path(), "a memo is longer than the memo file",
+                     static_cast<std::int64_t>(at)};
+    return {};
 }
 
-Result<MemoFile::Placed> MemoFile::place(const std::vector<std::string_view> &texts)
+Result<std::uint32_t> MemoFile::countedBlocks()
+{
+    std::array<Byte, 4> head;
+    const Result<std::size_t> got = m_file->read(0, head);
+    if (!got.ok())
+        return got.error();
+    return *got < head.size() ? 0U : getBe32(head.data());
+}
+
+Result<std::uint32_t> MemoFile::endBlock()
 {
     if (Status status = readBlockSize(); !status.ok())
         return status.error();
@@ -106,8 +163,21 @@ Result<MemoFile::Placed> MemoFile::place(const std::vector<std::string_view> &te
         return size.error();
     if (*size < kHeader)
         return Error{ErrorKind::Damaged, path(), "the memo file has no valid header", 0};
-    // The end of the file is the truth; a header number that lags or runs away is put right.
-    const std::uint64_t start = blocksFor(*size);
+    if (*size >= kLockByte)
+        return Error{ErrorKind::TooLarge, path(), "the memo file is full"};
+    return static_cast<std::uint32_t>(blocksFor(*size));
+}
+
+Result<MemoFile::Placed> MemoFile::place(const std::vector<std::string_view> &texts)
+{
+    const Result<std::uint32_t> end = endBlock();
+    const Result<std::uint32_t> counted = countedBlocks();
+    if (!end.ok() || !counted.ok())
+        return end.ok() ? counted.error() : end.error();
+    // A file that was cut ends before its header does: rows may still lead to what was there, and
+    // must not come to lead to another row's text. Else the end of the file is the truth.
+    const std::uint64_t behind = *counted > *end ? std::uint64_t{*counted} - *end : 0;
+    const std::uint64_t start = behind * m_blockSize <= kMostCut ? *end + behind : *end;
     std::uint64_t next = start;
     Placed placed;
     for (const std::string_view text : texts) {
@@ -129,7 +199,7 @@ Result<MemoFile::Placed> MemoFile::place(const std::vector<std::string_view> &te
     return placed;
 }
 
-Result<MemoFile::Extent> MemoFile::extentOf(std::uint32_t block)
+Result<MemoFile::Extent> MemoFile::extentOf(std::uint32_t block, std::uint64_t size)
 {
     if (Status status = readBlockSize(); !status.ok())
         return status.error();
@@ -137,10 +207,7 @@ Result<MemoFile::Extent> MemoFile::extentOf(std::uint32_t block)
     const Result<std::size_t> got = m_file->read(std::uint64_t{block} * m_blockSize, head);
     if (!got.ok())
         return got.error();
-    const Result<std::uint64_t> size = m_file->size();
-    if (!size.ok())
-        return size.error();
-    const Result<std::uint32_t> length = blockLength(block, ByteView(head).first(*got), *size);
+    const Result<std::uint32_t> length = blockLength(block, ByteView(head).first(*got), size);
     if (!length.ok())
         return length.error();
     return Extent{block, block + blocksFor(kBlockHead + *length)};
@@ -150,15 +217,13 @@ Result<std::string> MemoFile::headerProblem()
 {
     if (Status status = readBlockSize(); !status.ok())
         return status.error();
-    std::array<Byte, 4> head;
-    const Result<std::size_t> got = m_file->read(0, head);
+    const Result<std::uint32_t> next = countedBlocks();
     const Result<std::uint64_t> size = m_file->size();
-    if (!got.ok() || !size.ok())
-        return got.ok() ? size.error() : got.error();
-    const std::uint64_t next = *got < head.size() ? 0 : getBe32(head.data());
-    if (*size >= kHeader && next == blocksFor(*size))
+    if (!next.ok() || !size.ok())
+        return next.ok() ? size.error() : next.error();
+    if (*size >= kHeader && *next == blocksFor(*size))
         return std::string();
-    return "the header's next free block " + std::to_string(next) + " does not fit the file's " +
+    return "the header's next free block " + std::to_string(*next) + " does not fit the file's " +
            std::to_string(*size) + " bytes";
 }
 

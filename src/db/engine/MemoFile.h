@@ -18,8 +18,17 @@ class MemoFile
 public:
     explicit MemoFile(std::shared_ptr<File> file) : m_file(std::move(file)) {}
 
-    // The text that begins at a block. Damaged when there is none inside the file.
-    Result<std::string> read(std::uint32_t block);
+    // A piece of the file read in one go, for texts asked for in the order of the file. Nothing
+    // in it is looked at again: clear() it before rows read later are served.
+    struct Ahead {
+        std::uint64_t first = 0; // bytes
+        std::uint64_t last = 0;  // where the text read last begins
+        std::vector<Byte> bytes;
+
+        void clear() { bytes.clear(); }
+    };
+    // Puts the text that begins at a block into `text`. Damaged when there is none inside the file.
+    Status read(std::uint32_t block, std::string &text, Ahead *ahead = nullptr);
 
     // Texts (none empty) as they will stand behind all others; writes nothing. REQUIRES: nobody
     // else takes blocks before the caller has written them.
@@ -30,13 +39,16 @@ public:
         std::uint32_t next = 0; // for the header: first free block then
     };
     Result<Placed> place(const std::vector<std::string_view> &texts);
+    // The first block behind the bytes of the file, whatever the header counts.
+    Result<std::uint32_t> endBlock();
 
     // Where a text lies, for the full check.
     struct Extent {
         std::uint64_t first = 0; // block
         std::uint64_t end = 0;   // behind its last block
     };
-    Result<Extent> extentOf(std::uint32_t block);
+    // `size`: the file's, in bytes.
+    Result<Extent> extentOf(std::uint32_t block, std::uint64_t size);
     // What is wrong with the header, empty when it is sound.
     Result<std::string> headerProblem();
 
@@ -45,6 +57,8 @@ public:
 
 private:
     Status readBlockSize();
+    Result<std::uint32_t> countedBlocks(); // the header's next free block
+    Result<ByteView> lookAhead(Ahead &ahead, std::uint64_t at);
     Result<std::uint32_t> blockLength(std::uint32_t block, ByteView start, std::uint64_t size);
     std::uint64_t blocksFor(std::uint64_t bytes) const;
 

@@ -15,6 +15,14 @@ char upper(char c)
 
 } // namespace
 
+std::string inLowerCase(std::string_view text)
+{
+    std::string lower(text);
+    for (char &c : lower)
+        c = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+    return lower;
+}
+
 int RowLayout::find(std::string_view name) const
 {
     for (std::size_t i = 0; i < fields.size(); ++i) {

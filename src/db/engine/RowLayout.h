@@ -19,6 +19,9 @@ struct FieldDef {
     std::uint8_t decimals = 0;
 };
 
+// Letters A to Z; names of files, fields and tags have no others.
+std::string inLowerCase(std::string_view text);
+
 struct RowLayout {
     std::vector<FieldDef> fields;
     std::uint16_t recordLength = 1; // bytes, deletion flag included
@@ -29,9 +32,11 @@ struct RowLayout {
 
 // A tag to be made: all texts as they go into the index file.
 struct TagDef {
-    std::string name;       // at most 10 characters
-    std::string expression; // key
-    std::string filter;     // empty: every row
+    std::string name;        // at most 10 characters
+    std::string expression;  // key
+    std::string filter;      // empty: every row
+    bool unique = false;     // of equal keys only the first record
+    bool descending = false; // shown backwards by programs that care
 };
 
 // A table to be made (TableCreate.h).

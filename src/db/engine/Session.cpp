@@ -4,13 +4,14 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <new>
 
 namespace norvane::engine
 {
 
-OpenTable::OpenTable(Session &owner, std::shared_ptr<TableFiles> files, bool exclusive)
+OpenTable::OpenTable(Session &owner, std::shared_ptr<TableFiles> files)
     : session(owner),
-      table(owner.settings, std::move(files), exclusive),
+      table(owner.settings, std::move(files)),
       fields(table.layout().fields.size()),
       tags(table.files().index() ? table.files().index()->tags().size() : 0)
 {
@@ -23,15 +24,12 @@ Result<std::shared_ptr<TableFiles>> Session::filesFor(const std::string &path)
     key.append(settings.readOnly ? "|r" : "|w");
     if (std::shared_ptr<TableFiles> open = m_open[key].lock())
         return open;
-    const bool firstUse = m_used.count(key) == 0;
     Result<std::shared_ptr<TableFiles>> opened =
-        TableFiles::open(m_files, path, settings, firstUse);
-    if (opened.ok()) {
+        TableFiles::open(m_files, path, settings, m_known[key]);
+    if (opened.ok())
         m_open[key] = *opened;
-        m_used.insert(key);
-    } else {
+    else
         m_open.erase(key);
-    }
     return opened;
 }
 
@@ -40,11 +38,12 @@ Result<OpenTable *> Session::openTable(const std::string &path)
     Result<std::shared_ptr<TableFiles>> files = filesFor(path);
     if (!files.ok())
         return files.error();
+    auto open = std::make_unique<OpenTable>(*this, std::move(*files));
     if (settings.exclusive) {
-        if (Status status = (*files)->enterExclusive(); !status.ok())
+        if (Status status = open->table.enterExclusive(); !status.ok())
             return status.error();
     }
-    m_tables.push_back(std::make_unique<OpenTable>(*this, std::move(*files), settings.exclusive));
+    m_tables.push_back(std::move(open));
     return m_tables.back().get();
 }
 
@@ -70,6 +69,19 @@ Status Session::closeAll()
             first = status;
     }
     return first;
+}
+
+// Must not fail itself: the handler that cannot get memory for its words says nothing.
+void Session::noteNoMemory()
+{
+    m_lastError = noMemory();
+    errorCode = -static_cast<int>(ErrorKind::NoMemory);
+    try {
+        if (onError)
+            onError(m_lastError);
+    } catch (const std::bad_alloc &) {
+        errorCode = -static_cast<int>(ErrorKind::NoMemory);
+    }
 }
 
 void Session::note(const Error &error, Answer answer)

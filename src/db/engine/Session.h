@@ -7,7 +7,6 @@
 #include <functional>
 #include <map>
 #include <memory>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -18,7 +17,7 @@ class Session;
 
 // A table handle's object with the handles that hang on it; 0 for those not yet given.
 struct OpenTable {
-    OpenTable(Session &owner, std::shared_ptr<TableFiles> files, bool exclusive);
+    OpenTable(Session &owner, std::shared_ptr<TableFiles> files);
 
     Session &session;
     Table table;
@@ -44,6 +43,7 @@ public:
     // Keeps the error as the last one; the handler hears of it unless it is an expected answer.
     enum class Answer { Expected, Failure };
     void note(const Error &error, Answer answer);
+    void noteNoMemory();
     const Error &lastError() const { return m_lastError; }
     void clearError() { m_lastError = {}; }
 
@@ -54,7 +54,7 @@ private:
     std::vector<std::unique_ptr<OpenTable>> m_tables;
     // What is open now, so that all handles on a table share its files and locks.
     std::map<std::string, std::weak_ptr<TableFiles>> m_open;
-    std::set<std::string> m_used; // tables opened at least once
+    std::map<std::string, TableMemory> m_known; // tables opened at least once
     Error m_lastError;
 };
 

@@ -2,7 +2,12 @@
 #pragma once
 
 #include "db/engine/LockWait.h"
+#include "db/engine/RowLayout.h"
 #include "db/engine/TableJournal.h"
+
+#include <map>
+#include <string>
+#include <vector>
 
 namespace norvane::engine
 {
@@ -14,6 +19,7 @@ struct SessionSettings {
     bool reportTagNames = true;
     Durability durability = Durability::Full;
     LockPatience patience;
+    std::map<std::string, std::vector<TagDef>> expectedTags; // by lower-case base name
 };
 
 } // namespace norvane::engine

@@ -21,6 +21,7 @@ enum class ErrorKind {
     TooLarge, // a file would grow into its lock bytes
     Gone,     // the file or its folder went away while open
     Misuse,   // wrong handle, a write without its lock
+    NoMemory, // this program got no more memory
     Io        // any other failure of the system
 };
 
@@ -32,6 +33,12 @@ struct Error {
 
     explicit operator bool() const { return kind != ErrorKind::None; }
 };
+
+// Takes no memory itself.
+inline Error noMemory()
+{
+    return {ErrorKind::NoMemory, {}, "out of memory", -1};
+}
 
 // An operation that gives nothing back: ok() or an error.
 class [[nodiscard]] Status

@@ -4,26 +4,13 @@
 #include "db/engine/LockPlaces.h"
 
 #include <algorithm>
+#include <new>
 
 namespace norvane::engine
 {
 
-namespace
-{
-
-using namespace std::chrono_literals;
-
-constexpr std::size_t kReadAhead = 64 * 1024; // bytes
-// Rows read ahead are served this long before other stations' changes are looked for again.
-constexpr auto kBlockAge = 250ms;
-
-} // namespace
-
-Table::Table(const SessionSettings &settings, std::shared_ptr<TableFiles> files, bool exclusive)
-    : m_settings(settings),
-      m_files(std::move(files)),
-      m_exclusive(exclusive),
-      m_memos(m_files->layout().fields.size())
+Table::Table(const SessionSettings &settings, std::shared_ptr<TableFiles> files)
+    : m_settings(settings), m_files(std::move(files)), m_memos(m_files->layout().fields.size())
 {
     leaveRow();
 }
@@ -31,6 +18,35 @@ Table::Table(const SessionSettings &settings, std::shared_ptr<TableFiles> files,
 Table::~Table()
 {
     (void)close();
+}
+
+Status Table::enterExclusive()
+{
+    Status status = m_files->enterExclusive();
+    m_exclusive = status.ok();
+    return status;
+}
+
+void Table::giveUp()
+{
+    if (!m_files)
+        return;
+    m_files->giveUp();
+    m_batchTag = -1;
+    m_blockRows = 0;
+    if (!m_appending && !m_changed)
+        leaveRow(); // what was read may be half of it
+}
+
+// For the ways that must be gone to their end, memory or not.
+Status Table::storeForSure()
+{
+    try {
+        return store();
+    } catch (const std::bad_alloc &) {
+        giveUp();
+        return noMemory();
+    }
 }
 
 Status Table::close()
@@ -54,7 +70,6 @@ void Table::leaveRow()
     m_changed = false;
     m_placeTag = -1;
     blankRow();
-    m_stored = m_row;
 }
 
 Status Table::loadRow(std::uint32_t record)
@@ -74,35 +89,8 @@ Status Table::reloadRow()
     return status;
 }
 
-Status Table::loadRowInPass(std::uint32_t record)
-{
-    const auto now = std::chrono::steady_clock::now();
-    const std::size_t length = layout().recordLength;
-    const bool held = record >= m_blockFirst && record - m_blockFirst < m_blockRows &&
-                      m_blockStamp == m_files->stamp() && now - m_blockTime < kBlockAge;
-    if (!held) {
-        const auto rows = static_cast<std::uint32_t>(std::max<std::size_t>(1, kReadAhead / length));
-        const std::uint32_t taken = std::min(rows, m_files->count() - record + 1);
-        m_block.resize(taken * length);
-        m_blockRows = 0;
-        if (Status status = m_files->readRows(record, m_block); !status.ok())
-            return status;
-        m_blockFirst = record;
-        m_blockRows = taken;
-        m_blockStamp = m_files->stamp();
-        m_blockTime = now;
-    }
-    const auto from =
-        m_block.begin() + static_cast<std::ptrdiff_t>((record - m_blockFirst) * length);
-    m_row.assign(from, from + static_cast<std::ptrdiff_t>(length));
-    rowLoaded(record);
-    m_loadedLocked = false; // the block may be older than a lock
-    return {};
-}
-
 void Table::rowLoaded(std::uint32_t record)
 {
-    m_stored = m_row;
     m_recNo = record;
     m_appending = false;
     m_changed = false;
@@ -110,6 +98,7 @@ void Table::rowLoaded(std::uint32_t record)
     m_placeTag = -1;
     m_loadedLocked = holdsLock(record);
     m_rowStamp = m_files->stamp();
+    m_inPass = false;
     forgetMemos();
 }
 

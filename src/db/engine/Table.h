@@ -1,7 +1,7 @@
 // One open handle on a table: a row buffer, a place in an order, locks and a pending change.
 //
-// Sections follow the source files: Table.cpp, TableMove.cpp, TableLock.cpp, TableWrite.cpp,
-// TableFields.cpp. Words of the contract are in engine.h.
+// Sections follow the source files: Table.cpp, TableAhead.cpp, TableMove.cpp, TableLock.cpp,
+// TableWrite.cpp, TableFields.cpp. Words of the contract are in engine.h.
 #pragma once
 
 #include "db/engine/engine.h"
@@ -20,16 +20,19 @@ namespace norvane::engine
 class Table
 {
 public:
-    // `exclusive`: the files were entered exclusively for this handle.
-    Table(const SessionSettings &settings, std::shared_ptr<TableFiles> files, bool exclusive);
+    Table(const SessionSettings &settings, std::shared_ptr<TableFiles> files);
     ~Table();
     Table(const Table &) = delete;
     Table &operator=(const Table &) = delete;
 
     TableFiles &files() { return *m_files; }
     const RowLayout &layout() const { return m_files->layout(); }
+    // Sole use from now on. Locked when another session has the table open.
+    Status enterExclusive();
     // Stores a pending change and gives everything back; the table is of no use afterwards.
     Status close();
+    // Memory ran out in the middle of an operation: nothing of what it was at is relied on.
+    void giveUp();
 
     // ---- the current row (Table.cpp)
     std::uint32_t recNo() const { return m_recNo; }
@@ -87,12 +90,27 @@ private:
     enum class Direction { Forward, Backward };
 
     // Table.cpp
+    Status storeForSure();
     void leaveRow(); // onto no row, the buffer blank
     Status loadRow(std::uint32_t record);
-    Status reloadRow();                         // keeps the place in the order
-    Status loadRowInPass(std::uint32_t record); // reads ahead
+    Status reloadRow(); // keeps the place in the order
     void rowLoaded(std::uint32_t record);
     bool holdsLock(std::uint32_t record) const;
+
+    // TableAhead.cpp
+    struct RowSpan {
+        std::uint32_t first;
+        std::uint32_t rows;
+        std::uint32_t wanted; // of them
+    };
+    std::uint32_t rowsAhead() const; // at the most
+    Status readAhead(std::uint32_t first, std::uint32_t rows);
+    bool isReadAhead(std::uint32_t record) const;
+    bool lockedHere(std::uint32_t record) const;
+    void takeFromBlock(std::uint32_t record);
+    Status loadRowInPass(std::uint32_t record);
+    Status loadRowAhead(Direction direction);
+    RowSpan spanAhead(Direction direction) const;
 
     // TableMove.cpp
     Status settleBeforeMove();
@@ -101,13 +119,24 @@ private:
     Result<Code> topOf(int tag, Direction direction);
     Result<Code> seekKey(int tag, const std::string &key);
     Result<Code> seekKeyNext(int tag, const std::string &key);
-    Result<Code> settle(int tag, Direction direction, bool &passedOver);
+    template <class F>
+    Result<Code> inIndex(F ask);
+    enum class Reading { OneRow, Ahead };
+    Result<Code> settle(int tag, Direction direction, Reading reading, bool &passedOver);
     Result<bool> rowBelongs(int tag, const IndexEntry &entry);
+    Result<bool> nextBelongs(int tag, Direction direction, Reading reading);
+    Result<bool> isInFile(std::uint32_t record);
+    Result<bool> hasKey(int tag, const IndexEntry &entry) const;
+    enum class Fit { Fits, Gone, Wrong };
+    Result<Fit> lookAgain(int tag, const IndexEntry &entry);
+    bool othersChange(std::uint32_t record);
     Result<bool> placeInTag(int tag);
     Result<Code> stepInTag(int tag, Direction direction);
+    Result<Code> stepFrom(int tag, const std::string &key, std::uint32_t record,
+                          Direction direction, Reading reading);
     Result<Code> stepInRecordOrder(Direction direction);
     Status loadBatch(int tag, const std::string &key, std::uint32_t record, Direction direction,
-                     std::size_t most = SIZE_MAX);
+                     bool soughtOnly = false);
     bool batchIsFresh(int tag) const;
 
     // TableLock.cpp
@@ -118,6 +147,7 @@ private:
     Status beginChange();
     void blankRow();
     Status store();
+    Status storeOnce();
     Status placeMemos();
     Result<std::vector<KeyChange>> keyChanges(bool newRow) const;
     Status changeKeys(const std::vector<KeyChange> &changes, std::uint32_t record);
@@ -140,10 +170,10 @@ private:
 
     const SessionSettings &m_settings;
     std::shared_ptr<TableFiles> m_files;
-    bool m_exclusive;
+    bool m_exclusive = false;
 
     std::vector<Byte> m_row;    // with pending changes
-    std::vector<Byte> m_stored; // as it lies in the file
+    std::vector<Byte> m_stored; // as it lies in the file, while m_changed
     std::uint32_t m_recNo = 0;  // 0: on no row
     bool m_appending = false;   // the buffer is a row to come
     bool m_changed = false;
@@ -164,12 +194,16 @@ private:
     std::uint32_t m_batchStamp = 0;
     std::chrono::steady_clock::time_point m_batchTime;
 
-    // rows read ahead in record order
+    // rows read ahead: in record order, or those that the next entries of the batch lead to
     std::vector<Byte> m_block;
     std::uint32_t m_blockFirst = 0;
     std::uint32_t m_blockRows = 0;
     std::uint32_t m_blockStamp = 0;
     std::chrono::steady_clock::time_point m_blockTime;
+    bool m_inPass = false;        // the current row is from there
+    MemoFile::Ahead m_memosAhead; // texts of those rows, read after them
+
+    bool m_judges = true; // an entry that does not fit its row makes the index suspect
 
     std::vector<std::uint32_t> m_locks; // records, 0 for the append lock
 };

@@ -1,5 +1,6 @@
 #include "db/engine/TableCheck.h"
 
+#include "db/engine/Cleanup.h"
 #include "db/engine/FieldForms.h"
 #include "db/engine/LockPlaces.h"
 
@@ -13,14 +14,15 @@ namespace norvane::engine
 namespace
 {
 
-using Findings = std::vector<std::string>;
+using Findings = std::vector<CheckFinding>;
+using Place = CheckFinding::Place;
 
 constexpr std::size_t kMostFindings = 1000; // a wrecked file need not fill the memory
 
-void add(Findings &findings, std::string text)
+void add(Findings &findings, Place place, std::string text)
 {
     if (findings.size() < kMostFindings)
-        findings.push_back(std::move(text));
+        findings.push_back({place, std::move(text)});
 }
 
 std::string told(const Error &error)
@@ -37,20 +39,22 @@ void checkHeader(TableFiles &files, Findings &findings)
     const Result<std::size_t> got = files.table().file().read(0, bytes);
     const Result<std::uint64_t> size = files.table().file().size();
     if (!got.ok() || !size.ok()) {
-        add(findings, told(got.ok() ? size.error() : got.error()));
+        add(findings, Place::Check, told(got.ok() ? size.error() : got.error()));
         return;
     }
     const std::uint64_t claimed = getLe32(&bytes[4]);
     const std::uint64_t end = files.header().length + claimed * files.layout().recordLength;
     if (end > *size)
-        add(findings, "the header counts " + std::to_string(claimed) +
-                          " rows, the file has room for " + std::to_string(files.count()));
+        add(findings, Place::Header,
+            "the header counts " + std::to_string(claimed) + " rows, the file has room for " +
+                std::to_string(files.count()));
     else if (*size > end + 1)
-        add(findings, std::to_string(*size - end) + " bytes lie behind the last row");
+        add(findings, Place::Header,
+            std::to_string(*size - end) + " bytes lie behind the last row");
     const bool date =
         bytes[1] < 100 && bytes[2] >= 1 && bytes[2] <= 12 && bytes[3] >= 1 && bytes[3] <= 31;
     if (!date)
-        add(findings, "the header's date of change is no date");
+        add(findings, Place::Header, "the header's date of change is no date");
 }
 
 // Block number of a memo field, 0 for none. REQUIRES: a sound field.
@@ -70,31 +74,38 @@ struct MemoUse {
     std::string owner;
 };
 
-void checkMemoPointer(MemoFile &memo, const FieldDef &field, ByteView row, const std::string &where,
-                      std::vector<MemoUse> &uses, Findings &findings)
+// The memo file, its length asked for once, and what is used of it.
+struct Memos {
+    MemoFile *file = nullptr;
+    std::uint64_t size = 0; // bytes
+    std::vector<MemoUse> uses;
+};
+
+void checkMemoPointer(Memos &memos, const FieldDef &field, ByteView row, const std::string &where,
+                      Findings &findings)
 {
     const std::uint32_t block = blockOf(field, row);
     if (block == 0)
         return;
-    const Result<MemoFile::Extent> extent = memo.extentOf(block);
+    const Result<MemoFile::Extent> extent = memos.file->extentOf(block, memos.size);
     if (extent.ok())
-        uses.push_back({*extent, where});
+        memos.uses.push_back({*extent, where});
     else
-        add(findings, where + ": " + extent.error().detail);
+        add(findings, Place::Row, where + ": " + extent.error().detail);
 }
 
-void checkRow(TableFiles &files, std::uint32_t record, ByteView row, std::vector<MemoUse> &uses,
+void checkRow(TableFiles &files, std::uint32_t record, ByteView row, Memos &memos,
               Findings &findings)
 {
     const std::string number = "row " + std::to_string(record);
     if (row[0] != kLiveRow && row[0] != kDeletedRow)
-        add(findings, number + ": neither live nor deleted");
+        add(findings, Place::Row, number + ": neither live nor deleted");
     for (const FieldDef &field : files.layout().fields) {
         const std::string problem = fieldProblem(field, row);
         if (!problem.empty())
-            add(findings, number + ", " + field.name + ": " + problem);
+            add(findings, Place::Row, number + ", " + field.name + ": " + problem);
         else if (field.type == 'M')
-            checkMemoPointer(*files.memo(), field, row, number + ", " + field.name, uses, findings);
+            checkMemoPointer(memos, field, row, number + ", " + field.name, findings);
     }
 }
 
@@ -104,53 +115,61 @@ void checkSharedBlocks(std::vector<MemoUse> &uses, Findings &findings)
               [](const MemoUse &a, const MemoUse &b) { return a.extent.first < b.extent.first; });
     for (std::size_t i = 1; i < uses.size(); ++i) {
         if (uses[i].extent.first < uses[i - 1].extent.end)
-            add(findings, uses[i - 1].owner + " and " + uses[i].owner + " share memo blocks");
+            add(findings, Place::Row,
+                uses[i - 1].owner + " and " + uses[i].owner + " share memo blocks");
     }
 }
 
 void checkRows(TableFiles &files, Findings &findings)
 {
-    std::vector<MemoUse> uses;
+    Memos memos{files.memo(), 0, {}};
+    if (files.memo()) {
+        const Result<std::uint64_t> size = files.memo()->file().size();
+        if (!size.ok())
+            return add(findings, Place::Check, told(size.error()));
+        memos.size = *size;
+    }
     const RowSource rows = files.allRows();
     std::uint32_t record = 0;
     ByteView row;
     Result<bool> more = rows.next(record, row);
     while (more.ok() && *more) {
-        checkRow(files, record, row, uses, findings);
+        checkRow(files, record, row, memos, findings);
         more = rows.next(record, row);
     }
     if (!more.ok())
-        add(findings, told(more.error()));
-    checkSharedBlocks(uses, findings);
+        add(findings, Place::Check, told(more.error()));
+    checkSharedBlocks(memos.uses, findings);
     if (!files.memo())
         return;
     const Result<std::string> header = files.memo()->headerProblem();
     if (!header.ok())
-        add(findings, told(header.error()));
+        add(findings, Place::Memo, told(header.error()));
     else if (!header->empty())
-        add(findings, files.memo()->path() + ": " + *header);
+        add(findings, Place::Memo, files.memo()->path() + ": " + *header);
 }
 
 void checkTags(TableFiles &files, Findings &findings)
 {
-    if (!files.index()) {
-        if (files.header().hasIndex())
-            add(findings, "the index is missing");
-        return;
+    const std::size_t before = findings.size();
+    if (IndexFile *index = files.fileIndex()) {
+        const auto found = checkIndex(*index, files.allRows());
+        if (!found.ok())
+            add(findings, Place::Index, told(found.error()));
+        for (std::size_t i = 0; found.ok() && i < found->size(); ++i)
+            add(findings, Place::Index, (*found)[i]);
+    } else if (files.header().hasIndex() && !files.damage()) {
+        add(findings, Place::Index, "the index is missing");
     }
-    const Result<Findings> found = checkIndex(*files.index(), files.allRows());
-    if (!found.ok()) {
-        add(findings, told(found.error()));
-        return;
-    }
-    for (const std::string &finding : *found)
-        add(findings, finding);
+    // what a look at the tags alone does not tell: that some are not there
+    if (findings.size() == before && files.damage() && files.isIndexDamage(files.damage()))
+        add(findings, Place::Index, told(files.damage()));
 }
 
 void checkLocked(TableFiles &files, Findings &findings)
 {
     if (Status status = files.refreshCount(); !status.ok()) {
-        add(findings, told(status.error()));
+        add(findings, Place::Check, told(status.error()));
         return;
     }
     checkHeader(files, findings);
@@ -160,30 +179,33 @@ void checkLocked(TableFiles &files, Findings &findings)
 
 } // namespace
 
-std::vector<std::string> checkTable(TableFiles &files, const LockPatience &patience)
+std::vector<CheckFinding> checkTable(TableFiles &files, const LockPatience &patience)
 {
     Findings findings;
     if (Status status = files.writeOut(); !status.ok())
-        return {told(status.error())};
+        return {{Place::Check, told(status.error())}};
     const bool needsLock = !files.exclusive() && !files.readOnly();
     if (needsLock) {
         const Status locked = waitForLock(patience, LockPace::Brief, [&files] {
             return files.table().tryLock(kLockByte, LockMode::Exclusive);
         });
         if (!locked.ok())
-            return {told(locked.error())};
+            return {{Place::Check, told(locked.error())}};
     }
+    const Cleanup letGo([&] {
+        if (needsLock)
+            (void)files.table().unlock(kLockByte, LockMode::Exclusive);
+    });
     {
         TableFiles::IndexLock lock;
-        const Status locked =
-            files.index() ? lock.take(files, LockMode::Shared, patience) : Status();
+        Status locked = files.index() ? lock.take(files, LockMode::Shared, patience) : Status();
+        if (locked.ok() && files.memo())
+            locked = files.memo()->file().freshen();
         if (locked.ok())
             checkLocked(files, findings);
         else
-            add(findings, told(locked.error()));
+            add(findings, Place::Check, told(locked.error()));
     }
-    if (needsLock)
-        (void)files.table().unlock(kLockByte, LockMode::Exclusive);
     return findings;
 }
 

@@ -9,8 +9,20 @@
 namespace norvane::engine
 {
 
-// One line for each finding, empty when everything is sound. Holds the append and index locks
-// meanwhile, so that no row is met half stored.
-std::vector<std::string> checkTable(TableFiles &files, const LockPatience &patience);
+struct CheckFinding {
+    enum class Place {
+        Header, // of the table: row count, date, end of the file
+        Row,    // what stands in a field or leads to its text
+        Memo,   // the memo file's header
+        Index,
+        Check // could not be made
+    };
+    Place place;
+    std::string text;
+};
+
+// Empty when everything is sound. Holds the append and index locks meanwhile, so that no row is
+// met half stored.
+std::vector<CheckFinding> checkTable(TableFiles &files, const LockPatience &patience);
 
 } // namespace norvane::engine

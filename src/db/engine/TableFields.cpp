@@ -186,10 +186,10 @@ Result<const std::string *> Table::memo(int field)
         return block.error();
     memo.text.clear();
     if (*block != 0) {
-        Result<std::string> text = m_files->memo()->read(*block);
-        if (!text.ok())
-            return text.error();
-        memo.text = std::move(*text);
+        const Status read =
+            m_files->memo()->read(*block, memo.text, m_inPass ? &m_memosAhead : nullptr);
+        if (!read.ok())
+            return read.error();
     }
     memo.known = true;
     return &memo.text;

@@ -1,9 +1,11 @@
 #include "db/engine/TableFiles.h"
 
+#include "db/engine/Cleanup.h"
 #include "db/engine/LockPlaces.h"
 
 #include <algorithm>
 #include <array>
+#include <new>
 
 namespace norvane::engine
 {
@@ -43,11 +45,16 @@ std::string besidePath(const std::string &path, std::string_view extension)
 
 TableFiles::~TableFiles()
 {
-    (void)writeOut();
+    try {
+        (void)writeOut();
+    } catch (const std::bad_alloc &) {
+        giveUp();
+    }
 }
 
 Result<std::shared_ptr<TableFiles>> TableFiles::open(FileSystem &files, const std::string &path,
-                                                     const SessionSettings &settings, bool firstUse)
+                                                     const SessionSettings &settings,
+                                                     TableMemory &memory)
 {
     Result<std::unique_ptr<File>> table = openAny(files, path, settings.readOnly);
     if (!table.ok())
@@ -65,9 +72,11 @@ Result<std::shared_ptr<TableFiles>> TableFiles::open(FileSystem &files, const st
     if (Status status = opened->openBeside(); !status.ok())
         return status.error();
     opened->m_journal = std::make_unique<TableJournal>(files, besidePath(opened->path(), "nvj"),
-                                                       opened->m_header, firstUse);
+                                                       opened->m_header, !memory.used);
     opened->nameTargets();
     if (Status status = opened->settleAtOpen(); !status.ok())
+        return status.error();
+    if (Status status = opened->checkAtOpen(memory); !status.ok())
         return status.error();
     return opened;
 }
@@ -88,9 +97,22 @@ Status TableFiles::openBeside()
             return memo.error();
         m_memo = std::make_unique<MemoFile>(std::shared_ptr<File>(std::move(*memo)));
     }
-    if (!m_header.hasIndex())
-        return {};
-    return openIndex(besidePath(path(), "cdx"), onlyRead);
+    return wantsIndex() ? openIndexBeside() : Status();
+}
+
+std::string TableFiles::indexPath()
+{
+    return m_indexFile ? m_indexFile->file().path() : besidePath(path(), "cdx");
+}
+
+// An index that is missing or makes no sense is no reason not to open the table.
+Status TableFiles::openIndexBeside()
+{
+    Status status = openIndex(besidePath(path(), "cdx"), readOnly());
+    if (status.ok() || !isIndexDamage(status.error()))
+        return status;
+    m_indexProblem = status;
+    return {};
 }
 
 Status TableFiles::openIndex(const std::string &path, bool readOnly)
@@ -107,39 +129,72 @@ Status TableFiles::openIndex(const std::string &path, bool readOnly)
     return {};
 }
 
+// It may not have come back after it was built anew.
+Status TableFiles::reopenIndex()
+{
+    if (!m_indexGone || m_copy || m_damage)
+        return {};
+    Status status = openIndex(indexPath(), readOnly());
+    m_indexGone = !status.ok();
+    return status;
+}
+
 Status TableFiles::enterExclusive()
 {
     if (Status status = m_table.tryLock(kOpenByte, LockMode::Exclusive); !status.ok())
         return status;
     if (++m_exclusive > 1)
         return {};
+    Cleanup leave([this] { (void)leaveExclusive(); });
+    m_noJournal = false;
     // From here on nothing changes behind this session's back; before it may have.
     Status status = refreshCount();
     if (status.ok() && m_index)
         status = m_index->refresh();
-    if (!status.ok())
-        (void)leaveExclusive();
+    if (!status.ok() && isIndexDamage(status.error()))
+        status = mendAfter(status.error());
+    if (status.ok())
+        leave.cancel();
     return status;
 }
 
 Status TableFiles::leaveExclusive()
 {
-    Status written;
-    if (m_exclusive == 1) {
-        written = writeOut();
-        const Status ended = m_journal ? m_journal->endBulk() : Status();
-        if (written.ok())
-            written = ended;
-    }
+    Status written = m_exclusive == 1 ? endSoleUse() : Status();
     --m_exclusive;
     Status unlocked = m_table.unlock(kOpenByte, LockMode::Exclusive);
     return written.ok() ? unlocked : written;
+}
+
+// When not everything could be written the journal keeps its mark, and whoever takes the lock next
+// mends the table.
+Status TableFiles::endSoleUse()
+{
+    Status status;
+    try {
+        status = writeOut();
+        if (status.ok())
+            return m_journal ? m_journal->endBulk(true) : Status();
+    } catch (const std::bad_alloc &) {
+        giveUp();
+        status = noMemory();
+    }
+    if (!m_journal)
+        return status;
+    (void)m_journal->endBulk(false);
+    m_countWaits = m_memoHeadWaits = m_indexLost = false;
+    m_unkeyed = 0;
+    if (m_index)
+        m_index->distrust();
+    return status;
 }
 
 Status TableFiles::refreshCount()
 {
     if (m_countWaits)
         return {}; // nobody else can have changed it
+    if (Status status = exclusive() ? Status() : m_table.file().freshen(); !status.ok())
+        return status;
     std::array<Byte, 4> bytes;
     const Result<std::size_t> got = m_table.file().read(4, bytes);
     if (!got.ok())
@@ -186,7 +241,14 @@ Result<std::uint32_t> TableFiles::rowsBehind(std::uint32_t most)
     return rows;
 }
 
-Status TableFiles::checkCount()
+Status TableFiles::mayWrite()
+{
+    if (readOnly())
+        return Error{ErrorKind::ReadOnly, path(), "the table is open for reading only"};
+    return m_damage ? Status(m_damage) : Status();
+}
+
+Status TableFiles::checkCount(std::uint32_t tolerated)
 {
     if (m_countWaits)
         return {};
@@ -195,10 +257,10 @@ Status TableFiles::checkCount()
                      "the header counts " + std::to_string(m_claimed) +
                          " rows, the file has room for " + std::to_string(m_count),
                      4};
-    const Result<std::uint32_t> behind = rowsBehind(2);
+    const Result<std::uint32_t> behind = rowsBehind(tolerated + 1);
     if (!behind.ok())
         return behind.error();
-    if (*behind < 2)
+    if (*behind <= tolerated)
         return {};
     return Error{ErrorKind::Damaged, path(),
                  "rows lie behind the " + std::to_string(m_count) + " that the header counts", 4};
@@ -206,8 +268,11 @@ Status TableFiles::checkCount()
 
 Status TableFiles::mendCount()
 {
-    if (checkCount().ok())
-        return {};
+    const Status count = checkCount(0);
+    if (count.ok() || !m_header.hasUsualLength()) // by a wrong length rows would be taken for none
+        return count;
+    if (Status status = keep(m_table.file()); !status.ok())
+        return status;
     const Result<std::uint32_t> behind =
         rowsBehind(maxRecords(m_header.length, layout().recordLength) - m_count);
     if (!behind.ok())
@@ -233,14 +298,46 @@ Status TableFiles::readRows(std::uint32_t first, ByteSpan into)
 Status TableFiles::checkRoom()
 {
     if (m_count < maxRecords(m_header.length, layout().recordLength))
-        return checkCount();
+        return checkCount(1); // one may be left of an append that is not yet taken back
     return Error{ErrorKind::TooLarge, path(), "the table is full"};
 }
 
 Status TableFiles::dropIndexChanges()
 {
     m_index->discard();
-    return m_indexWaits > 0 ? rebuildIndex() : Status();
+    m_indexLost = m_indexLost || m_indexWaits > 0;
+    return m_indexLost ? rebuildIndex() : Status();
+}
+
+// The next lock finishes or takes back what was begun on disk; here nothing is relied on.
+void TableFiles::giveUp()
+{
+    ++m_stamp;
+    m_noJournal = false;
+    const bool changesRow = exclusive() && !m_pieces.empty() && !m_appends;
+    m_indexLost = m_indexLost || m_indexWaits > 0 || changesRow;
+    m_indexWaits = 0;
+    m_pieces.clear();
+    m_doubt = {};
+    m_copyOf.reset();
+    if (!m_index)
+        return;
+    m_index->discard();
+    m_index->distrust();
+    m_indexDoubted = exclusive();
+}
+
+// Sole use: the index as it has to be for the next operation.
+Status TableFiles::settleAlone(LockMode mode)
+{
+    if (m_indexLost)
+        return rebuildIndex();
+    m_indexDoubted = m_indexDoubted || m_indexGone;
+    Status status = reopenIndex();
+    if (status.ok() && m_index && m_indexDoubted)
+        status = m_index->refresh();
+    m_indexDoubted = !status.ok();
+    return status.ok() && mode == LockMode::Shared ? keyRows() : status;
 }
 
 Status TableFiles::writeOutCount()
@@ -256,16 +353,43 @@ Status TableFiles::writeOutCount()
 
 Status TableFiles::writeOut()
 {
+    const Status keyed = keyRows();
+    const Status written = flush();
+    return keyed.ok() ? written : keyed;
+}
+
+Status TableFiles::flush()
+{
     Status status = writeOutCount();
-    if (m_indexWaits > 0) {
-        Status committed = m_index->commit();
-        m_indexWaits = 0;
-        if (!committed.ok())
-            committed = rebuildIndex(); // many rows' keys were to come with it
-        if (status.ok())
-            status = committed;
-    }
+    const Status head = writeOutMemoHead();
+    const Status committed = writeOutIndex();
+    if (status.ok())
+        status = head;
+    return status.ok() ? committed : status;
+}
+
+Status TableFiles::writeOutMemoHead()
+{
+    if (!m_memoHeadWaits)
+        return {};
+    const Result<MemoFile::Placed> end = m_memo->place({});
+    if (!end.ok())
+        return end.error();
+    std::array<Byte, 4> head;
+    putBe32(head.data(), end->next);
+    Status status = m_memo->file().write(0, head);
+    m_memoHeadWaits = !status.ok();
     return status;
+}
+
+Status TableFiles::writeOutIndex()
+{
+    if (m_indexWaits == 0)
+        return {};
+    if (!m_index->commit().ok())
+        return rebuildIndex(); // many rows' keys were to come with it
+    m_indexWaits = 0;
+    return {};
 }
 
 RowSource TableFiles::allRows()
@@ -278,7 +402,6 @@ RowSource TableFiles::allRows()
     };
     auto pass = std::make_shared<Pass>();
     const std::uint32_t rows = std::max(1U, (1U << 18) / layout().recordLength);
-    pass->block.resize(std::size_t{rows} * layout().recordLength);
     return {[this, pass, rows](std::uint32_t &record, ByteView &row) -> Result<bool> {
         const std::size_t length = layout().recordLength;
         if (pass->at == pass->held) {
@@ -288,7 +411,8 @@ RowSource TableFiles::allRows()
             if (pass->first > m_count)
                 return false;
             const std::uint32_t now = std::min(rows, m_count - pass->first + 1);
-            Status status = readRows(pass->first, ByteSpan(pass->block).first(now * length));
+            pass->block.resize(now * length);
+            Status status = readRows(pass->first, pass->block);
             if (!status.ok())
                 return status.error();
             pass->held = now;
@@ -298,48 +422,6 @@ RowSource TableFiles::allRows()
         ++pass->at;
         return true;
     }};
-}
-
-Status TableFiles::rebuildIndex()
-{
-    if (!m_index)
-        return {};
-    if (Status status = m_journal->beginBulk(); !status.ok())
-        return status;
-    if (Status status = writeOutCount(); !status.ok())
-        return status;
-    m_index->discard();
-    m_indexWaits = 0;
-    std::vector<TagDef> tags;
-    for (const TagInfo &tag : m_index->tags())
-        tags.push_back({tag.name, tag.expression, tag.filter});
-
-    // Never an empty or half index under the live name: built beside, then put in its place.
-    const std::string live = m_indexFile->file().path();
-    const std::string beside = live + ".new";
-    (void)m_system.remove(beside);
-    Result<std::unique_ptr<File>> target = m_system.open(beside, OpenMode::CreateNew);
-    if (!target.ok())
-        return target.error();
-    Status status = buildIndex(**target, layout(), tags, allRows());
-    if (status.ok())
-        status = (*target)->sync();
-    target->reset();
-    if (!status.ok()) {
-        (void)m_system.remove(beside);
-        return status;
-    }
-    m_index.reset(); // an open file cannot be replaced everywhere
-    m_indexFile.reset();
-    nameTargets();
-    const Status renamed = m_system.rename(beside, live);
-    if (!renamed.ok())
-        (void)m_system.remove(beside);
-    ++m_stamp;
-    Status opened = openIndex(live, false);
-    if (opened.ok())
-        opened = m_index->refresh();
-    return renamed.ok() ? opened : renamed;
 }
 
 } // namespace norvane::engine

@@ -112,6 +112,13 @@ bool TableHeader::hasMemo() const
                        [](const FieldDef &field) { return field.type == 'M'; });
 }
 
+bool TableHeader::hasUsualLength() const
+{
+    constexpr std::size_t kBacklink = 263; // bytes that some programs keep there
+    const std::size_t fieldsEnd = kPrefix + layout.fields.size() * kDescriptor + 1;
+    return length == fieldsEnd || length == fieldsEnd + 1 || length == fieldsEnd + kBacklink;
+}
+
 std::uint32_t TableHeader::possibleCount(std::uint32_t claimed, std::uint64_t fileSize) const
 {
     const std::uint64_t rows = fileSize > length ? (fileSize - length) / layout.recordLength : 0;

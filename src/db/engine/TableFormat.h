@@ -40,6 +40,8 @@ struct TableHeader {
 
     bool hasIndex() const { return (flags & kFlagIndex) != 0; }
     bool hasMemo() const;
+    // The fields, their end mark, and of the usual kinds of further bytes at most one.
+    bool hasUsualLength() const;
     std::uint64_t rowPlace(std::uint32_t record) const
     {
         return length + std::uint64_t{record - 1} * layout.recordLength;

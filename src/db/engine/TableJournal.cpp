@@ -68,10 +68,30 @@ Status TableJournal::ensureJournal()
     if (m_state == Journal::State::Sound)
         return {};
     m_head = freshHeader();
-    Status status = m_journal.create(m_head, true);
+    Status status = m_journal.create(m_head, true, m_files.at(Target::Table)->path());
+    if (status.ok())
+        status = announce();
     if (status.ok())
         m_state = Journal::State::Sound;
+    else
+        (void)m_journal.remove();
     return status;
+}
+
+// Sessions that found no journal look for one again when the index's change counter has moved.
+// Synced, since the records are compared with what is on the medium.
+Status TableJournal::announce()
+{
+    File *index = m_files.at(Target::Index);
+    if (!index)
+        return {};
+    const Result<std::uint32_t> counter = counterInIndex();
+    if (!counter.ok())
+        return counter.error();
+    std::array<Byte, 4> bytes{};
+    putBe32(bytes.data(), *counter + 1);
+    Status status = index->write(kIndexCounter, bytes);
+    return status.ok() ? index->sync() : status;
 }
 
 Status TableJournal::measure(std::array<std::uint64_t, kTargets> &sizes) const
@@ -102,6 +122,18 @@ Result<std::uint32_t> TableJournal::counterInIndex() const
         return 0U;
     const Result<std::size_t> got = m_files.at(Target::Index)->read(kIndexCounter, bytes);
     return got.ok() ? Result<std::uint32_t>(getBe32(bytes.data())) : got.error();
+}
+
+// Row count and change counter as the files have them now.
+Status TableJournal::noteState()
+{
+    const Result<std::uint32_t> rows = countInHeader();
+    const Result<std::uint32_t> counter = counterInIndex();
+    if (!rows.ok() || !counter.ok())
+        return rows.ok() ? counter.error() : rows.error();
+    m_head.rows = *rows;
+    m_head.counter = *counter;
+    return {};
 }
 
 // Records from before another program's write, or from before a restart of the machine, must
@@ -329,7 +361,8 @@ Status TableJournal::beginBulk()
         return rows.error();
     m_head.rows = *rows;
     m_head.flags |= JournalHeader::kBulk;
-    Status status = known ? m_journal.write(m_head) : m_journal.create(m_head, false);
+    Status status = known ? m_journal.write(m_head)
+                          : m_journal.create(m_head, false, m_files.at(Target::Table)->path());
     if (status.ok() && known)
         status = m_journal.sync();
     if (!status.ok())
@@ -340,12 +373,16 @@ Status TableJournal::beginBulk()
 }
 
 // Nobody else has the table open, so the journal may go altogether.
-Status TableJournal::endBulk()
+Status TableJournal::endBulk(bool complete)
 {
     if (!m_inBulk)
         return {};
     m_inBulk = false; // with the mark left standing, whoever comes next mends the table
+    if (!complete)
+        return {};
     if (Status status = syncAll(); !status.ok())
+        return status;
+    if (Status status = noteState(); !status.ok())
         return status;
     if (Status status = newEpoch(true); !status.ok())
         return status;

@@ -36,10 +36,35 @@ public:
     };
     // One small read.
     Result<Need> look(bool readOnly);
+    // As of the last look.
+    bool missing() const { return m_state == Journal::State::Missing; }
     // Finishes or takes back what others began. True when the tags have to be built anew; this is
     // kept in the journal until rebuilt().
     Result<bool> recover();
+    // The tags are about to be built anew: until rebuilt() whoever comes next sees to it.
+    Status beginRebuild();
     Status rebuilt();
+    // Puts a row count right that the file itself has proved wrong, and the file's end with it.
+    Status setCount(std::uint32_t rows);
+
+    // What the journal, as last looked at, tells of the files.
+    enum class Verdict {
+        Sound,   // nothing else wrote since our last save
+        Changed, // somebody did, or there is no journal
+        Older    // the index misses changes of the table
+    };
+    Verdict verdict(std::uint32_t rows, std::uint32_t counter) const;
+    // What was applied is put on the medium and its records are forgotten.
+    Status endRecords();
+    std::uint32_t lastCounter() const
+    {
+        return m_state == Journal::State::Sound ? m_head.counter : 0;
+    }
+    bool saveUnderWay() const
+    {
+        return m_state == Journal::State::Sound && m_head.begun != m_head.applied;
+    }
+    std::uint64_t applied() const { return m_head.applied; }
 
     // Stores the pieces: all of them or, when it fails, none. Fresh ones first.
     // When only the way from the journal to the files failed, recover() will finish it; the
@@ -48,7 +73,8 @@ public:
 
     // Writing past the journal, alone in the table.
     Status beginBulk();
-    Status endBulk();
+    // `complete`: all that was to be written is; else the mark stays.
+    Status endBulk(bool complete);
     bool inBulk() const { return m_inBulk; }
 
     // Puts the files on the medium and forgets the records.
@@ -58,8 +84,10 @@ private:
     // TableJournal.cpp
     JournalHeader freshHeader() const;
     Status ensureJournal();
+    Status announce();
     Status readHead();
     Status measure(std::array<std::uint64_t, kTargets> &sizes) const;
+    Status noteState();
     Status noteOthersWrites();
     Status captureBefore(Pieces &pieces) const;
     Status makeRoom(std::size_t length);
@@ -75,7 +103,8 @@ private:
     Status replayRecords(bool all, bool &rebuild);
     Result<bool> filesAreOlder(const std::vector<JournalRecord> &records) const;
     Status takeBackGrowth();
-    Status tidyEnds();
+    Status tidyEnds(bool afterLoad);
+    Result<bool> foreignRowsBehind(std::uint32_t rows) const;
     Status recountRows(bool restart);
     Status setTableEnd(std::uint32_t rows);
     Result<std::uint32_t> countInHeader() const;

@@ -1,4 +1,5 @@
 // Locks of a handle: rows and the append lock, held until unlocked or closed.
+#include "db/engine/Cleanup.h"
 #include "db/engine/LockPlaces.h"
 #include "db/engine/Table.h"
 
@@ -9,8 +10,8 @@ namespace norvane::engine
 
 Status Table::lock(std::uint32_t record)
 {
-    if (m_files->readOnly())
-        return Error{ErrorKind::ReadOnly, m_files->path(), "the table is open for reading only"};
+    if (Status allowed = m_files->mayWrite(); !allowed.ok())
+        return allowed;
     if (record > maxRecords(m_files->header().length, layout().recordLength))
         return Error{ErrorKind::Misuse, m_files->path(), "no such row to lock", record};
     const bool held = std::find(m_locks.begin(), m_locks.end(), record) != m_locks.end();
@@ -18,19 +19,21 @@ Status Table::lock(std::uint32_t record)
         return {};
 
     const std::uint64_t place = recordLockByte(record); // that of record 0 is the append lock
+    m_locks.reserve(m_locks.size() + 1);                // a lock is never held and not noted
     Status status =
         waitForLock(m_settings.patience, record == 0 ? LockPace::Brief : LockPace::Record,
                     [&] { return m_files->table().tryLock(place, LockMode::Exclusive); });
     if (!status.ok())
         return status;
     m_locks.push_back(record);
+    Cleanup letGo([&] { (void)unlockOne(record); });
     // What was read before the lock may have changed until it came.
     if (record == 0)
         status = m_files->refreshCount();
     else if (record == m_recNo && !m_changed)
         status = reloadRow();
-    if (!status.ok())
-        (void)unlockOne(record);
+    if (status.ok())
+        letGo.cancel();
     return status;
 }
 
@@ -57,11 +60,11 @@ Status Table::unlockAll()
 
 Status Table::unlock()
 {
-    const Status stored = store();
+    const Status stored = storeForSure();
     if (!stored.ok())
         discard();
-    Status unlocked = unlockAll();
-    return stored.ok() ? unlocked : stored;
+    (void)unlockAll(); // what is stored stays stored
+    return stored;
 }
 
 } // namespace norvane::engine

@@ -75,15 +75,11 @@ Result<bool> TableJournal::recover()
     if (status.ok() && bulk)
         status = recountRows(restart);
     if (status.ok() && (restart || bulk))
-        status = tidyEnds();
+        status = tidyEnds(bulk);
     if (!status.ok())
         return status.error();
-    const Result<std::uint32_t> rows = countInHeader();
-    const Result<std::uint32_t> counter = counterInIndex();
-    if (!rows.ok() || !counter.ok())
-        return rows.ok() ? counter.error() : rows.error();
-    m_head.rows = *rows;
-    m_head.counter = *counter;
+    if (status = noteState(); !status.ok())
+        return status.error();
     m_head.begun = m_head.applied;
     if (rebuild)
         m_head.flags |= JournalHeader::kRebuild;
@@ -209,13 +205,37 @@ Status TableJournal::takeBackGrowth()
     return {};
 }
 
-// After a restart nothing is known of growth that was not committed.
-Status TableJournal::tidyEnds()
+// True when two rows or more lie behind the count: a save of ours leaves one at most.
+Result<bool> TableJournal::foreignRowsBehind(std::uint32_t rows) const
+{
+    const Result<std::uint64_t> size = m_files.at(Target::Table)->size();
+    if (!size.ok())
+        return size.error();
+    for (std::uint32_t row = rows; row < rows + 2; ++row) {
+        if (*size < endOfRows(row) + m_recordLength)
+            return false;
+        Byte flag = 0;
+        const Result<std::size_t> got =
+            m_files.at(Target::Table)->read(endOfRows(row), ByteSpan(&flag, 1));
+        if (!got.ok())
+            return got.error();
+        if (flag != kLiveRow && flag != kDeletedRow)
+            return false;
+    }
+    return true;
+}
+
+// After a restart nothing is known of growth that was not committed. Rows that are not ours are
+// left to the check of the count.
+Status TableJournal::tidyEnds(bool afterLoad)
 {
     const Result<std::uint32_t> rows = countInHeader();
     if (!rows.ok())
         return rows.error();
-    if (Status status = setTableEnd(*rows); !status.ok())
+    const Result<bool> foreign = afterLoad ? Result<bool>(false) : foreignRowsBehind(*rows);
+    if (!foreign.ok())
+        return foreign.error();
+    if (Status status = *foreign ? Status() : setTableEnd(*rows); !status.ok())
         return status;
     File *memo = m_files.at(Target::Memo);
     if (!memo)
@@ -229,7 +249,7 @@ Status TableJournal::tidyEnds()
     if (block == 0 || *got < head.size() || *size >= kLockByte)
         return {};
     const std::uint64_t end = (*size + block - 1) / block;
-    if (getBe32(head.data()) == end)
+    if (getBe32(head.data()) >= end) // further when the file was cut: see MemoFile::place
         return {};
     putBe32(head.data(), static_cast<std::uint32_t>(end));
     return memo->write(0, ByteView(head).first(4));
@@ -264,27 +284,74 @@ Result<bool> TableJournal::adoptDamaged()
     if (Status status = m_journal.setAside(); !status.ok())
         return status.error();
     m_head = freshHeader();
-    const Result<std::uint32_t> rows = countInHeader();
-    const Result<std::uint32_t> counter = counterInIndex();
-    if (!rows.ok() || !counter.ok())
-        return rows.ok() ? counter.error() : rows.error();
-    m_head.rows = *rows;
-    m_head.counter = *counter;
+    if (Status status = noteState(); !status.ok())
+        return status.error();
     m_head.flags = JournalHeader::kRebuild;
-    if (Status status = m_journal.create(m_head, true); !status.ok())
+    if (Status status = m_journal.create(m_head, true, m_files.at(Target::Table)->path());
+        !status.ok())
         return status.error();
     m_state = Journal::State::Sound;
-    if (Status status = tidyEnds(); !status.ok())
+    if (Status status = tidyEnds(false); !status.ok())
         return status.error();
     return true;
 }
 
+Status TableJournal::beginRebuild()
+{
+    if (m_inBulk)
+        return {};
+    if (Status status = readHead(); !status.ok())
+        return status;
+    if (Status status = ensureJournal(); !status.ok())
+        return status;
+    m_head.flags |= JournalHeader::kRebuild;
+    if (Status status = checkpoint(); !status.ok()) // records of pages that are about to go
+        return status;
+    return m_journal.sync();
+}
+
+Status TableJournal::endRecords()
+{
+    return m_state == Journal::State::Sound && !m_head.empty() ? checkpoint() : Status();
+}
+
+Status TableJournal::setCount(std::uint32_t rows)
+{
+    if (!m_inBulk) {
+        if (Status status = readHead(); !status.ok())
+            return status;
+    }
+    const bool known = m_state == Journal::State::Sound;
+    if (known && !m_head.empty()) {
+        if (Status status = checkpoint(); !status.ok())
+            return status;
+    }
+    if (Status status = setTableEnd(rows); !status.ok())
+        return status;
+    const std::vector<Byte> bytes = makeDateAndCount(today(), rows);
+    if (Status status = m_files.at(Target::Table)->write(kCountPlace, bytes); !status.ok())
+        return status;
+    if (Status status = syncAll(); !status.ok())
+        return status;
+    m_head.rows = rows;
+    return known ? m_journal.write(m_head) : Status();
+}
+
+TableJournal::Verdict TableJournal::verdict(std::uint32_t rows, std::uint32_t counter) const
+{
+    if (m_state != Journal::State::Sound || m_inBulk)
+        return Verdict::Changed;
+    if (rows == m_head.rows && counter == m_head.counter)
+        return Verdict::Sound;
+    // Rows never get fewer and the counter never falls, unless files were put back.
+    const bool older = rows < m_head.rows || counter < m_head.counter;
+    return older ? Verdict::Older : Verdict::Changed;
+}
+
 Status TableJournal::rebuilt()
 {
-    const Result<std::uint32_t> counter = counterInIndex();
-    if (!counter.ok())
-        return counter.error();
-    m_head.counter = *counter;
+    if (Status status = noteState(); !status.ok())
+        return status;
     if (Status status = syncAll(); !status.ok())
         return status;
     m_head.flags &= ~JournalHeader::kRebuild;

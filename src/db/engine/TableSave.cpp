@@ -1,8 +1,10 @@
 // One save as a whole, the lock it is made under, and the mending of what others left.
+#include "db/engine/Cleanup.h"
 #include "db/engine/LockPlaces.h"
 #include "db/engine/TableFiles.h"
 
 #include <algorithm>
+#include <new>
 
 namespace norvane::engine
 {
@@ -12,25 +14,31 @@ namespace
 
 using namespace std::chrono_literals;
 
-// Uncommitted index changes an exclusive session may collect; bounds memory.
-constexpr int kMostWaiting = 20000;
-constexpr std::size_t kCopied = 1 << 20; // bytes at a time
-// Opening a table that has to be mended waits this long for those who read it.
+// Opening a table that has to be mended waits this long for those who use it.
 const LockPatience kMendPatience{100, 100ms, {}};
 
 } // namespace
 
 // ---- putting a save together
 
+Status TableFiles::beginSave()
+{
+    m_pieces.clear();
+    return reopenIndex();
+}
+
 Result<std::vector<std::uint32_t>> TableFiles::putMemos(const std::vector<std::string_view> &texts)
 {
     Result<MemoFile::Placed> placed = m_memo->place(texts);
     if (!placed.ok())
         return placed.error();
-    std::vector<Byte> head(4);
-    putBe32(head.data(), placed->next);
     m_pieces.push_back({Target::Memo, true, placed->offset, std::move(placed->bytes), {}});
-    m_pieces.push_back({Target::Memo, false, 0, std::move(head), {}});
+    m_memoHeadWaits = exclusive();
+    if (!exclusive()) {
+        std::vector<Byte> head(4);
+        putBe32(head.data(), placed->next);
+        m_pieces.push_back({Target::Memo, false, 0, std::move(head), {}});
+    }
     return std::move(placed->blocks);
 }
 
@@ -77,24 +85,31 @@ bool TableFiles::dateIsOld() const
 Status TableFiles::commitSave()
 {
     ++m_stamp;
+    m_tagsAreNew = false;
+    const std::uint32_t rows = m_count + 1;
     Status status = exclusive() ? writePast() : commitThroughJournal();
     m_pieces.clear();
     if (!status.ok())
         return status;
     if (m_appends) {
-        ++m_count;
+        m_count = rows; // a save finished by recover() is counted already
         m_claimed = m_count;
         m_size = m_header.rowPlace(m_count + 1) + 1;
         m_countWaits = exclusive();
     }
-    if (exclusive() && m_index && ++m_indexWaits >= kMostWaiting)
-        status = writeOut();
-    return status;
+    if (!exclusive() || !m_index)
+        return {};
+    if (m_appends)
+        ++m_unkeyed;
+    else if (++m_indexWaits >= kMostWaiting)
+        return flush();
+    return {};
 }
 
 Status TableFiles::commitThroughJournal()
 {
     std::vector<PageChange> pages;
+    m_noJournal = false;
     if (m_index) {
         pages = m_index->changes();
         const Result<std::uint64_t> size = m_indexFile->file().size();
@@ -111,10 +126,11 @@ Status TableFiles::commitThroughJournal()
         m_index->noteWritten(pages);
     } else if (m_index) {
         m_index->discard();
-        if (committed)
-            m_index->distrust();
+        m_index->distrust();
     }
-    return status;
+    // On record it will be found and finished by the next lock; better now, or it would be
+    // reported as failed and appear all the same.
+    return !status.ok() && committed && recover().ok() ? Status() : status;
 }
 
 // ---- alone in the table
@@ -136,7 +152,7 @@ Status TableFiles::writePast()
     return {};
 }
 
-// Room again on a full disk. A memo header that runs ahead is put right by the next text.
+// Room again on a full disk.
 void TableFiles::takeBackPast()
 {
     for (const Piece &piece : m_pieces) {
@@ -144,11 +160,6 @@ void TableFiles::takeBackPast()
             continue;
         if (piece.target == Target::Memo) {
             (void)m_memo->file().resize(piece.offset);
-            std::vector<Byte> head(4);
-            if (const Result<MemoFile::Placed> none = m_memo->place({}); none.ok()) {
-                putBe32(head.data(), none->next);
-                (void)m_memo->file().write(0, head);
-            }
             continue;
         }
         const Byte mark = kEndOfFile;
@@ -167,8 +178,17 @@ void TableFiles::restoreRow(std::uint32_t record, ByteView row)
 
 Status TableFiles::takeCommitLock(LockMode mode, const LockPatience &patience)
 {
+    if (Status status = reopenIndex(); !status.ok())
+        return status;
     return waitForLock(patience, LockPace::Brief,
                        [this, mode] { return lockFile().tryLock(kLockByte, mode); });
+}
+
+// A journal that comes into being moves the change counter before it is used, so while that stands
+// there is still none, and the pages are still good. Spares a search for a file that is not there.
+bool TableFiles::nothingNew()
+{
+    return m_noJournal && m_index && m_index->unchanged();
 }
 
 // Under the lock nobody is in the middle of a save, so what is unfinished belongs to the dead.
@@ -181,17 +201,35 @@ Status TableFiles::settle(LockMode mode, const LockPatience &patience)
         return {};
     if (mode == LockMode::Exclusive)
         return recover();
+    bool exclusive = false;
+    Cleanup letGo([&] {
+        if (exclusive)
+            (void)lockFile().unlock(kLockByte, LockMode::Exclusive);
+    });
     // The shared lock goes first: two who wait for each other's would wait for ever.
     Status status = lockFile().unlock(kLockByte, LockMode::Shared);
     if (status.ok())
         status = takeCommitLock(LockMode::Exclusive, patience);
     if (!status.ok())
         return status;
+    exclusive = true;
     status = recover();
+    letGo.cancel();
     const Status shared = lockFile().tryLock(kLockByte, LockMode::Shared);
     const Status released = lockFile().unlock(kLockByte, LockMode::Exclusive);
     if (status.ok())
         status = shared.ok() ? released : shared;
+    return status;
+}
+
+// On a network folder the lock itself makes at most the bytes of its own file fresh.
+Status TableFiles::freshen(LockMode mode)
+{
+    Status status = m_table.file().freshen();
+    if (status.ok() && m_indexFile)
+        status = m_indexFile->file().freshen();
+    if (status.ok() && m_memo && mode == LockMode::Exclusive)
+        status = m_memo->file().freshen();
     return status;
 }
 
@@ -207,7 +245,7 @@ Status TableFiles::settleAtOpen()
     // A save under way is finished by its own station, or by whoever takes the lock next.
     const LockPatience once{0, 0ms, {}};
     const bool urgent = *need == TableJournal::Need::Repair;
-    Status status = takeCommitLock(LockMode::Exclusive, urgent ? kMendPatience : once);
+    Status status = takeCommitLock(LockMode::Exclusive, urgent ? atMost(kMendPatience) : once);
     if (!status.ok())
         return !urgent && status.error().kind == ErrorKind::Locked ? Status() : status;
     status = recover();
@@ -229,10 +267,13 @@ Status TableFiles::settleForReading()
 
 Status TableFiles::recover()
 {
+    if (Status status = freshen(LockMode::Exclusive); !status.ok())
+        return status;
     const Result<bool> rebuild = m_journal->recover();
     if (!rebuild.ok())
         return rebuild.error();
     ++m_stamp;
+    m_noJournal = false;
     if (m_index)
         m_index->distrust();
     Status status = refreshCount();
@@ -241,93 +282,37 @@ Status TableFiles::recover()
     return status;
 }
 
-// Tags anew from the rows, laid over the old index under its lock, so that other sessions may
-// have the table open. Broken off, it is begun again: the journal keeps the mark.
-Status TableFiles::mendIndex()
-{
-    if (!m_index)
-        return m_journal->rebuilt();
-    std::vector<TagDef> tags;
-    for (const TagInfo &tag : m_index->tags())
-        tags.push_back({tag.name, tag.expression, tag.filter});
-    const std::string beside = m_indexFile->file().path() + ".new";
-    (void)m_system.remove(beside);
-    Result<std::unique_ptr<File>> made = m_system.open(beside, OpenMode::CreateNew);
-    if (!made.ok())
-        return made.error();
-    const std::shared_ptr<File> fresh = std::move(*made);
-    Status status = buildIndex(*fresh, layout(), tags, allRows());
-    if (status.ok())
-        status = layOver(*fresh);
-    (void)m_system.remove(beside);
-    if (!status.ok())
-        return status;
-    Result<std::unique_ptr<IndexFile>> index = IndexFile::open(m_indexFile->shared(), layout());
-    if (!index.ok())
-        return index.error();
-    m_index = std::move(*index);
-    return m_journal->rebuilt();
-}
-
-Status TableFiles::layOver(File &fresh)
-{
-    // Sessions that have the table open know where its tags begin.
-    const std::shared_ptr<File> borrowed(&fresh, [](File *) {});
-    const Result<std::unique_ptr<IndexFile>> index = IndexFile::open(borrowed, layout());
-    if (!index.ok())
-        return index.error();
-    const bool alone = m_table.tryLock(kOpenByte, LockMode::Exclusive).ok();
-    if (alone)
-        (void)m_table.unlock(kOpenByte, LockMode::Exclusive);
-    else if (!(*index)->laidOutLike(*m_index))
-        return Error{ErrorKind::Locked, m_indexFile->file().path(),
-                     "the index has to be built anew; close the table at the other stations"};
-    File &live = m_indexFile->file();
-    std::vector<Byte> head(indexPageSize);
-    Result<std::size_t> got = live.read(0, head);
-    if (!got.ok())
-        return got.error();
-    const std::uint32_t counter = getBe32(&head[8]) + 1;
-    const Result<std::uint64_t> size = fresh.size();
-    if (!size.ok())
-        return size.error();
-    std::vector<Byte> bytes;
-    for (std::uint64_t at = indexPageSize; at < *size; at += bytes.size()) {
-        bytes.resize(static_cast<std::size_t>(std::min<std::uint64_t>(kCopied, *size - at)));
-        got = fresh.read(at, bytes);
-        if (!got.ok())
-            return got.error();
-        if (Status status = live.write(at, bytes); !status.ok())
-            return status;
-    }
-    got = fresh.read(0, head);
-    if (!got.ok())
-        return got.error();
-    putBe32(&head[8], counter); // makes everybody read the pages anew
-    Status status = live.write(0, head);
-    return status.ok() ? live.resize(*size) : status;
-}
-
 TableFiles::IndexLock::~IndexLock()
 {
-    (void)release();
+    try {
+        (void)release();
+    } catch (const std::bad_alloc &) {
+        m_files = nullptr; // the byte is free, only the words of a failure were not to be had
+    }
 }
 
 Status TableFiles::IndexLock::take(TableFiles &files, LockMode mode, const LockPatience &patience)
 {
     if (files.exclusive())
-        return {};
+        return files.m_copy ? files.refreshCopy() : files.settleAlone(mode);
     if (Status status = files.takeCommitLock(mode, patience); !status.ok())
         return status;
     m_files = &files;
     m_mode = mode;
-    if (++files.m_lockDepth == 1) {
-        if (Status status = files.settle(mode, patience); !status.ok()) {
-            (void)release();
-            return status;
-        }
+    const bool outermost = ++files.m_lockDepth == 1;
+    Status status = outermost ? files.freshen(mode) : Status();
+    if (status.ok() && !files.m_copy && files.nothingNew())
+        return {};
+    if (status.ok() && outermost)
+        status = files.settle(mode, patience);
+    if (!status.ok()) {
+        (void)release();
+        return status;
     }
-    return files.m_index ? files.m_index->refresh() : Status();
+    files.m_noJournal = false;
+    status = files.refreshIndex();
+    files.m_noJournal = status.ok() && files.m_index && !files.m_copy && files.m_journal->missing();
+    return status;
 }
 
 Status TableFiles::IndexLock::release()

@@ -1,5 +1,6 @@
 // Storing rows. Under the commit lock a save is put together in memory (texts, keys, the row) and
 // then stored as one (TableSave.cpp).
+#include "db/engine/Cleanup.h"
 #include "db/engine/LockPlaces.h"
 #include "db/engine/Table.h"
 
@@ -10,8 +11,8 @@ namespace norvane::engine
 
 Status Table::beginChange()
 {
-    if (m_files->readOnly())
-        return Error{ErrorKind::ReadOnly, m_files->path(), "the table is open for reading only"};
+    if (Status allowed = m_files->mayWrite(); !allowed.ok())
+        return allowed;
     if (m_appending || m_changed)
         return {};
     if (m_recNo == 0)
@@ -27,6 +28,7 @@ Status Table::beginChange()
         if (Status status = reloadRow(); !status.ok())
             return status;
     }
+    m_stored = m_row;
     m_changed = true;
     return {};
 }
@@ -46,7 +48,7 @@ Status Table::flush()
 {
     if (Status status = store(); !status.ok())
         return status;
-    return m_files->writeOut();
+    return m_files->flush();
 }
 
 Status Table::deleteRow()
@@ -66,6 +68,8 @@ Status Table::reindex()
     if (Status status = store(); !status.ok())
         return status;
     m_batchTag = -1;
+    if (m_files->tagsAreNew())
+        return {};
     if (Status status = m_files->mendCount(); !status.ok())
         return status;
     return m_files->rebuildIndex();
@@ -86,9 +90,23 @@ Status Table::store()
     const int placeTag = m_placeTag >= 0 ? m_placeTag : orderTag();
     if (placeTag >= 0)
         (void)placeInTag(placeTag); // a deleted row keeps its place for the next move
+    Status status = storeOnce();
+    if (!status.ok() && m_files->isIndexDamage(status.error())) {
+        m_batchTag = -1;
+        if (m_files->mendAfter(status.error()).ok() && m_files->mayWrite().ok())
+            status = storeOnce();
+    }
+    return status;
+}
 
+Status Table::storeOnce()
+{
     TableFiles::IndexLock lock;
     if (Status status = lock.take(*m_files, LockMode::Exclusive, m_settings.patience); !status.ok())
+        return status;
+    // A dead station's save of this row may have been finished since we read it.
+    if (Status status = m_files->exclusive() ? Status() : m_files->readRows(m_recNo, m_stored);
+        !status.ok())
         return status;
     std::vector<KeyChange> changes;
     if (Status status = storeLocked(changes); !status.ok())
@@ -98,24 +116,27 @@ Status Table::store()
             m_placeKey = change.after;
     }
     rowStored(m_recNo);
-    return lock.release();
+    return {}; // stored, whatever becomes of the lock
 }
 
 Status Table::storeLocked(std::vector<KeyChange> &changes)
 {
-    m_files->beginSave();
+    if (Status status = m_files->beginSave(); !status.ok())
+        return status;
     if (Status status = placeMemos(); !status.ok())
         return status;
     Result<std::vector<KeyChange>> found = keyChanges(false);
     if (!found.ok())
         return found.error();
     changes = std::move(*found);
-    if (Status status = changeKeys(changes, m_recNo); !status.ok())
+    const bool keyed = m_files->isKeyed(m_recNo);
+    if (Status status = keyed ? changeKeys(changes, m_recNo) : Status(); !status.ok())
         return status;
     m_files->putRow(m_recNo, m_row);
     Status status = m_files->commitSave();
     if (!status.ok() && m_files->exclusive()) {
-        takeBackKeys(changes, m_recNo);
+        if (keyed)
+            takeBackKeys(changes, m_recNo);
         m_files->restoreRow(m_recNo, m_stored);
     }
     return status;
@@ -123,7 +144,6 @@ Status Table::storeLocked(std::vector<KeyChange> &changes)
 
 void Table::rowStored(std::uint32_t record)
 {
-    m_stored = m_row;
     m_recNo = record;
     m_appending = false;
     m_changed = false;
@@ -244,8 +264,8 @@ Status Table::blank()
 
 Status Table::startAppend()
 {
-    if (m_files->readOnly())
-        return Error{ErrorKind::ReadOnly, m_files->path(), "the table is open for reading only"};
+    if (Status allowed = m_files->mayWrite(); !allowed.ok())
+        return allowed;
     if (Status status = settleBeforeMove(); !status.ok())
         return status;
     m_recNo = 0;
@@ -268,6 +288,13 @@ Status Table::append()
     Status status = appendOnce(moved);
     while (status.ok() && moved)
         status = appendOnce(moved);
+    if (!status.ok() && m_files->isIndexDamage(status.error())) {
+        if (!m_files->mendAfter(status.error()).ok() || !m_files->mayWrite().ok())
+            return status;
+        do
+            status = appendOnce(moved);
+        while (status.ok() && moved);
+    }
     return status;
 }
 
@@ -278,20 +305,27 @@ Status Table::appendOnce(bool &moved)
     std::uint32_t record = 0;
     if (Status status = lockForAppend(record); !status.ok())
         return status;
+    Cleanup letGo([&] {
+        (void)unlockAfterAppend();
+        (void)unlockOne(record);
+    });
     TableFiles::IndexLock lock;
     Status status = lock.take(*m_files, LockMode::Exclusive, m_settings.patience);
+    if (status.ok() && !m_files->exclusive())
+        status = m_files->refreshCount(); // others may have finished a dead station's append
     moved = status.ok() && m_files->count() + 1 != record;
     if (status.ok() && !moved)
         status = appendLocked(record);
-    const Status released = lock.release();
-    const Status unlocked = unlockAfterAppend();
+    letGo.cancel();
+    (void)lock.release(); // once stored it is stored, whatever becomes of the locks
+    (void)unlockAfterAppend();
     if (!status.ok() || moved) {
         const Status left = unlockOne(record);
         return status.ok() ? left : status;
     }
     m_placeTag = -1;
     rowStored(record);
-    return released.ok() ? unlocked : released;
+    return {};
 }
 
 Status Table::unlockAfterAppend()
@@ -312,35 +346,38 @@ Status Table::lockForAppend(std::uint32_t &record)
     if (m_files->exclusive())
         return measure();
     LockedFile &table = m_files->table();
+    m_locks.reserve(m_locks.size() + 1);
     return waitForLock(m_settings.patience, LockPace::Brief, [&]() -> Status {
         if (Status status = table.tryLock(kLockByte, LockMode::Exclusive); !status.ok())
             return status;
+        Cleanup letGo([&] { (void)table.unlock(kLockByte, LockMode::Exclusive); });
         Status status = measure();
         if (status.ok())
             status = table.tryLock(recordLockByte(record), LockMode::Exclusive);
-        if (status.ok())
+        if (status.ok()) {
             m_locks.push_back(record);
-        else
-            (void)table.unlock(kLockByte, LockMode::Exclusive);
+            letGo.cancel();
+        }
         return status;
     });
 }
 
 Status Table::appendLocked(std::uint32_t record)
 {
-    m_files->beginSave();
+    if (Status status = m_files->beginSave(); !status.ok())
+        return status;
     if (Status status = placeMemos(); !status.ok())
         return status;
-    const Result<std::vector<KeyChange>> changes = keyChanges(true);
+    // In sole use the keys come later, all at once (TableLoad.cpp).
+    const bool keyNow = !m_files->exclusive();
+    const Result<std::vector<KeyChange>> changes =
+        keyNow ? keyChanges(true) : std::vector<KeyChange>();
     if (!changes.ok())
         return changes.error();
     if (Status status = changeKeys(*changes, record); !status.ok())
         return status;
     m_files->putNewRow(m_row);
-    Status status = m_files->commitSave();
-    if (!status.ok() && m_files->exclusive())
-        takeBackKeys(*changes, record);
-    return status;
+    return m_files->commitSave();
 }
 
 } // namespace norvane::engine

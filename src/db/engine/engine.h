@@ -3,8 +3,11 @@
 // positioned), r4locked when another session holds the record; any other value is a failure or
 // "no row", and lastError() tells more. All text is bytes of code page 1252, paths are bytes as
 // the file system has them. One thread. A handle that is not (or no longer) one gives a failure.
+// Nothing is thrown: a call that gets no memory fails with ErrorKind::NoMemory, and what it had
+// begun is given up or finished under the next lock.
 #pragma once
 
+#include "db/engine/RowLayout.h"
 #include "db/engine/Status.h"
 
 #include <chrono>
@@ -114,7 +117,24 @@ Code f4memoAssignN(Handle field, std::string_view text, std::uint32_t length);
 // An engine date (YYYYMMDD) by picture: "MM", "DD", "YY", "CCYY" or joined ones.
 std::string date4format(std::string_view date, std::string_view picture);
 
+// ---- check and repair (docs/crash-safety.md, "Self-check")
+// The tags that tables of this base name ("people", any letter case) have to have. d4open builds
+// those that are missing or different anew from the rows; further tags of a file are kept.
+void d4expectTags(Handle session, std::string_view baseName, std::vector<TagDef> tags);
+// What is wrong with an open table and could not be put right; kind None when nothing is. Until
+// then the table is open for reading only.
+const Error &d4damage(Handle table);
 // Findings of a full check of table, index and memo, one line each; empty when sound.
 std::vector<std::string> d4check(Handle table);
+// One thing that d4repair found: put right, or left as it is.
+struct RepairLine {
+    std::string file; // path
+    std::string text; // technical sentence in English
+    bool mended = true;
+};
+// Puts right what the files themselves prove: an unfinished save, the row count, the tags. Needs
+// the table alone (d4locked otherwise). r4success when the table is sound afterwards; with
+// r4failure the lines (or lastError(), when it cannot be opened) tell what is left.
+Code d4repair(Handle session, std::string_view path, std::vector<RepairLine> &report);
 
 } // namespace norvane::engine

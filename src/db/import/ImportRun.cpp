@@ -47,6 +47,8 @@ clsImportColDefs ImportRun::columns(qint32 target)
 ImportResult ImportRun::ImportData_Detail(const QString &path)
 {
     m_result = {};
+    if (!m_db.MayWrite())
+        return m_result;
     QString fault;
     // A folder that goes away on the run fails every row that is left.
     const clsDB::TellOnce once(m_db);
@@ -93,6 +95,9 @@ bool ImportRun::importRows(const QString &path, const WaitDlg &progress)
     bool good = true;
     qint32 rowNumber = 1;
     for (auto line = reader.readLine(); line; line = reader.readLine(), ++rowNumber) {
+        // That was told; the rows that are left would only tell it again.
+        if (m_db.IsReadOnly())
+            return false;
         clsSystem::WaitDlgUpdate(progress, percentOf(rowNumber));
         host().pumpEvents();
         const QString row = clsSystem::Trim(*line);

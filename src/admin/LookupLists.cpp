@@ -1,0 +1,125 @@
+#include "admin/LookupLists.h"
+
+#include "admin/frmEditCategories.h"
+
+#include <algorithm>
+
+namespace
+{
+
+using schema::Table;
+
+struct Reference {
+    Table table;
+    const char *field; // null: none
+};
+
+struct ListInfo {
+    qint32 type;
+    const char *caption;
+    const char *name;
+    const char *helpKey;
+    Reference usedBy[2];
+};
+
+constexpr Reference Nowhere{Table::Category, nullptr};
+
+constexpr ListInfo lists[] = {
+    {1,
+     "Edit Customer Categories",
+     "Customer Categories",
+     "LISTMGMT_CUSTOMERCATEGORIES",
+     {{Table::Customer, "custcat"}, Nowhere}},
+    {2,
+     "Edit Products/Services",
+     "Products/Services",
+     "LISTMGMT_PRODUCTSERVICECATEGORIES",
+     {{Table::Customer2PS, "psid"}, {Table::Issues, "psid"}}},
+    {3,
+     "Edit States/Provinces",
+     "States/Provinces",
+     "LISTMGMT_STATECATEGORIES",
+     {{Table::Customer, "state"}, Nowhere}},
+    {4,
+     "Edit Countries",
+     "Countries",
+     "LISTMGMT_COUNTRYCATEGORIES",
+     {{Table::Customer, "country"}, Nowhere}},
+    {101,
+     "Edit Issue Statuses",
+     "Issue Statuses",
+     "LISTMGMT_ISSUESTATUSES",
+     {{Table::Issues, "status"}, Nowhere}},
+    {102,
+     "Edit Issue Priorities",
+     "Issue Priorities",
+     "LISTMGMT_ISSUEPRIORITIES",
+     {{Table::Issues, "priority"}, Nowhere}},
+    {103,
+     "Edit Contract Types",
+     "Contract Types",
+     "LISTMGMT_CONTRACTTYPECATEGORIES",
+     {{Table::Customer2PS, "conttype"}, Nowhere}},
+    {104,
+     "Edit Contract Durations",
+     "Contract Durations",
+     "LISTMGMT_CONTRACTDURATIONCATEGORIES",
+     {{Table::Customer2PS, "contdur"}, Nowhere}},
+    {105,
+     "Edit Issue Categories",
+     "Issue Categories",
+     "LISTMGMT_ISSUECATETORIES",
+     {{Table::Issues, "issuecat"}, Nowhere}},
+    {106,
+     "Edit Issue Actions",
+     "Issue Actions",
+     "LISTMGMT_ISSUEACTIONSTATUSES",
+     {{Table::IssuesActions, "action"}, Nowhere}},
+};
+
+// Choices for the custom fields, which keep plain text: no record refers to them.
+constexpr ListInfo quickEntries = {
+    0, "Edit Quick Entry List", "Quick Entry List", "LISTMGMT_CUSTOMFIELDS", {Nowhere, Nowhere}};
+constexpr qint32 FirstQuickEntry = 200;
+constexpr qint32 LastQuickEntry = 205;
+
+const ListInfo *listInfo(qint32 type)
+{
+    if (type >= FirstQuickEntry && type <= LastQuickEntry)
+        return &quickEntries;
+    const auto *found = std::find_if(std::begin(lists), std::end(lists),
+                                     [type](const ListInfo &info) { return info.type == type; });
+    return found == std::end(lists) ? nullptr : found;
+}
+
+} // namespace
+
+std::optional<LookupList> lookupList(qint32 type)
+{
+    const ListInfo *info = listInfo(type);
+    if (info == nullptr)
+        return std::nullopt;
+    LookupList list{.caption = QString::fromLatin1(info->caption),
+                    .name = QString::fromLatin1(info->name),
+                    .table = {schema::table(Table::Category).dataFile(), gDB.CategoryTable(),
+                              QStringLiteral("rowid"), QStringLiteral("desc"), type},
+                    .usedBy = {},
+                    .helpKey = QString::fromLatin1(info->helpKey)};
+    for (const Reference &reference : info->usedBy)
+        if (reference.field != nullptr)
+            list.usedBy.append(
+                {gDB.TablePath(reference.table), QString::fromLatin1(reference.field)});
+    return list;
+}
+
+void editLookupList(qint32 type, QWidget *parent)
+{
+    if (!gDB.Perm_ListMgmt())
+        return;
+    const std::optional<LookupList> list = lookupList(type);
+    if (!list)
+        return;
+    frmEditCategories editor(parent);
+    editor.Init(*list);
+    editor.exec();
+}

@@ -1,0 +1,12 @@
+// The preview window and the print dialog that installGuiDoors puts behind printing::.
+#pragma once
+
+#include "common/ui/PrintDoor.h"
+
+namespace guiprinting
+{
+
+void preview(const printing::Document &document);
+std::optional<printing::Choice> dialog(const printing::Document &document);
+
+} // namespace guiprinting

@@ -1,0 +1,197 @@
+// Lists on paper and as text.
+#include "common/base/clsSystem.h"
+#include "common/base/Failure.h"
+#include "common/base/Hourglass.h"
+#include "common/ui/ListView.h"
+#include "common/ui/PrintDoor.h"
+#include "common/ui/Printing.h"
+#include "common/ui/PrintPages.h"
+#include "common/ui/PrintProgress.h"
+
+#include <cmath>
+#include <numeric>
+
+namespace
+{
+
+constexpr int kMargin = 1000;
+constexpr int kTextWidth = 80; // characters
+
+// As shown; a hidden column has none.
+QList<int> columnWidths(const ListView &lv)
+{
+    QList<int> widths;
+    for (int column = 0; column < lv.model()->columnCount(); ++column)
+        widths.append(lv.isColumnHidden(column) ? 0 : lv.columnWidth(column));
+    return widths;
+}
+
+int sum(const QList<int> &widths)
+{
+    return std::accumulate(widths.begin(), widths.end(), 0);
+}
+
+// One list on one device.
+class ListPrinter
+{
+public:
+    ListPrinter(const ListView &lv, QPagedPaintDevice &device, const QMarginsF &margins,
+                const QString &title)
+        : m_lv(lv),
+          m_pages(device),
+          m_margins(margins),
+          m_title(title),
+          m_font(lv.font()),
+          m_headingFont(bold(lv.font()))
+    {
+        placeColumns();
+        const qreal usable = m_pages.height() - margins.top() - margins.bottom();
+        m_linesOnPage = std::max(1, static_cast<int>(std::floor(usable / m_font.lineHeight())) - 2);
+    }
+
+    // False when the person gave up.
+    bool run()
+    {
+        const int rows = m_lv.itemCount();
+        const int pages = (rows + m_linesOnPage - 1) / m_linesOnPage;
+        PrintProgress progress(pages);
+        for (int page = 1; page <= pages; ++page) {
+            if (!progress.begins(page)) {
+                m_pages.abandon();
+                return false;
+            }
+            if (page > 1)
+                m_pages.newPage();
+            const int first = (page - 1) * m_linesOnPage;
+            onePage(page, first, std::min(first + m_linesOnPage, rows));
+        }
+        return true;
+    }
+
+private:
+    struct Column {
+        int index;
+        qreal left;
+        qreal width;
+    };
+
+    static QFont bold(QFont font)
+    {
+        font.setBold(true);
+        return font;
+    }
+
+    // All shown columns fill the usable width, in the proportions of the screen.
+    void placeColumns()
+    {
+        const QList<int> widths = columnWidths(m_lv);
+        const qreal usable = m_pages.width() - m_margins.left() - m_margins.right();
+        const qreal scale = std::max<qreal>(usable, 0) / std::max(1, sum(widths));
+        qreal left = m_margins.left();
+        for (int index = 0; index < widths.size(); ++index) {
+            const qreal width = widths[index] * scale;
+            if (width > 0)
+                m_columns.append({index, left, width});
+            left += width;
+        }
+    }
+
+    // Line 0 is that of the headings.
+    template <class TextOf>
+    void rowOfTexts(int line, const PrintFont &font, TextOf &&textOf)
+    {
+        const qreal y = m_margins.top() + line * m_font.lineHeight();
+        for (const Column &column : m_columns)
+            m_pages.text(column.left, y, font, font.fitted(textOf(column.index), column.width));
+    }
+
+    void onePage(int page, int firstRow, int endRow)
+    {
+        heading();
+        for (int row = firstRow; row < endRow; ++row)
+            rowOfTexts(row - firstRow + 1, m_font,
+                       [this, row](int column) { return m_lv.itemText(row, column); });
+        footer(page);
+    }
+
+    void heading()
+    {
+        if (!m_title.isEmpty()) {
+            const QString title = oneLine(m_title);
+            const qreal left = (m_pages.width() - m_headingFont.width(title)) / 2;
+            m_pages.text(std::max<qreal>(left, 0), m_margins.top() / 4, m_headingFont, title);
+        }
+        const QAbstractItemModel *model = m_lv.model();
+        rowOfTexts(0, m_headingFont, [&](int column) {
+            return model->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+        });
+        const qreal below = m_margins.top() + m_font.lineHeight();
+        m_pages.painter().setPen(QPen(Qt::black, 0)); // as thin as the device has
+        m_pages.painter().drawLine(QPointF(m_margins.left(), below),
+                                   QPointF(m_pages.width() - m_margins.right(), below));
+    }
+
+    // Moved up where a large font would leave the page.
+    void footer(int page)
+    {
+        const qreal lowest = m_pages.height() - m_font.lineHeight();
+        const qreal wanted = m_pages.height() - m_margins.bottom() / 4;
+        m_pages.text(m_pages.width() / 2, std::min(wanted, lowest), m_font, QString::number(page));
+    }
+
+    const ListView &m_lv;
+    PrintPages m_pages;
+    const QMarginsF m_margins;
+    const QString m_title;
+    const PrintFont m_font;
+    const PrintFont m_headingFont;
+    QList<Column> m_columns;
+    int m_linesOnPage = 1;
+};
+
+} // namespace
+
+bool ListViewPrint(const ListView &lv, QPagedPaintDevice &device, int left, int top, int right,
+                   int bottom, const QString &title)
+{
+    return guarded("clsSystem_ListViewPrint", false, [&] {
+        if (lv.itemCount() == 0)
+            return true;
+        const Hourglass hourglass;
+        return ListPrinter(lv, device, QMarginsF(left, top, right, bottom), title).run();
+    });
+}
+
+void ListViewPrint_GetPrinter(const ListView &lv, const QString &title)
+{
+    if (lv.itemCount() == 0) {
+        prompts::inform(QStringLiteral("The list is empty. There is nothing to print."));
+        return;
+    }
+    printing::preview({.name = title, .draw = [&lv, title](QPagedPaintDevice &device) {
+                           return ListViewPrint(lv, device, kMargin, kMargin, kMargin, kMargin,
+                                                title);
+                       }});
+}
+
+QString LVContent(const ListView &lv)
+{
+    const QList<int> widths = columnWidths(lv);
+    const int all = std::max(1, sum(widths));
+    const auto lineOf = [&](const auto &textOf) {
+        QString line;
+        for (int column = 0; column < widths.size(); ++column) {
+            const int characters = widths[column] * kTextWidth / all;
+            if (characters > 0)
+                line += clsSystem::PadOrTruncate(oneLine(textOf(column)), characters);
+        }
+        return line;
+    };
+    const QString headings = lineOf([&lv](int column) {
+        return lv.model()->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+    });
+    QString text = headings + QLatin1String("\n\n") + QString(headings.size(), u'-') + u'\n';
+    for (int row = 0; row < lv.itemCount(); ++row)
+        text += lineOf([&lv, row](int column) { return lv.itemText(row, column); }) + u'\n';
+    return text;
+}

@@ -1,0 +1,23 @@
+#include "common/ui/PrintProgress.h"
+
+#include "common/ui/BusyWindow.h"
+
+namespace
+{
+
+constexpr int kLongDocument = 100; // pages; fewer are there at once
+constexpr int kPagesAStep = 10;
+
+} // namespace
+
+bool PrintProgress::begins(int page)
+{
+    if (m_pages < kLongDocument || page % kPagesAStep != 1)
+        return true;
+    if (!m_wait)
+        clsSystem::WaitDlgShow(m_wait, QStringLiteral("Print"),
+                               QStringLiteral("Preparing pages. Please wait..."), true, true);
+    m_wait->setMessage(
+        QStringLiteral("Preparing page %1 of %2. Please wait...").arg(page).arg(m_pages));
+    return WaitDlgGoesOn(m_wait, static_cast<int>(100LL * (page - 1) / m_pages));
+}

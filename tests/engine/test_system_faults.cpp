@@ -1,0 +1,107 @@
+// Calls of the system that fail, with the numbers they fail with, once or for ever: a save reported
+// as done is there, one refused is whole or absent, locks and descriptors are given back, and with
+// the fault gone all works again. What the engine makes of each kind of failure on a simulated disk
+// is in test_journal_faults.cpp; here the way from the call to the kind is part of it.
+#include "engine/FailingCalls.h"
+#include "engine/SavedFolder.h"
+#include "support/MatrixLength.h"
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <functional>
+
+using namespace norvane::engine;
+using namespace enginetest;
+using norvane::test::matrixLength;
+
+namespace
+{
+
+struct Named {
+    const char *name;
+    failing::Fault fault;
+    bool harmless; // the engine gets over it by itself
+};
+
+class SystemFaults : public SavedFolder, public testing::WithParamInterface<Named>
+{
+protected:
+    // `work` in a session of its own, with one call after the other failing.
+    void failEach(bool withJournal, const People &after,
+                  const std::function<bool(const TestSession &)> &work)
+    {
+        const std::size_t descriptors = openFiles();
+        for (int call = 1;; call += matrixLength(2, 7, 1)) {
+            ASSERT_LT(call, 2000);
+            restore(withJournal);
+            bool failed = false;
+            bool done = false;
+            {
+                const TestSession session;
+                code4durability(session, "full");
+                failing::at(call, GetParam().fault);
+                done = work(session);
+                failed = failing::stop();
+                EXPECT_TRUE(done || !GetParam().harmless) << "call " << call;
+                code4accessMode(session, 0);
+                bool found = false;
+                ASSERT_EQ(compareFiles(m_people, &after, &found), "") << "call " << call;
+                ASSERT_TRUE(!done || found || after == m_people) << "not there, call " << call;
+                saveMore(session, found ? after : m_people);
+                ASSERT_FALSE(HasFatalFailure()) << "call " << call;
+            }
+            ASSERT_EQ(openFiles(), descriptors) << "call " << call;
+            if (!failed) {
+                EXPECT_TRUE(done);
+                break;
+            }
+        }
+    }
+};
+
+TEST_P(SystemFaults, ASave)
+{
+    Save update = insertOf(2, std::string(700, 'l'));
+    update.kind = Save::Kind::Update;
+    update.person.name = "Another";
+    for (const Save &save : {insertOf(4, "a text"), update}) {
+        People after = m_people;
+        note(after, save);
+        failEach(save.kind == Save::Kind::Update, after, [&](const TestSession &session) {
+            return performSaves(session, m_path, {save}) == 1;
+        });
+    }
+}
+
+TEST_P(SystemFaults, AnIndexBuiltAnew)
+{
+    failEach(true, m_people, [&](const TestSession &session) {
+        code4accessMode(session, 1);
+        const Handle table = d4open(session, m_path);
+        const bool built = table > 0 && d4reindex(table) == r4success;
+        return d4close(table) == r4success && built;
+    });
+}
+
+std::vector<Named> faults()
+{
+    return {{"Short", {0, false, false}, true},
+            {"ShortForEver", {0, false, true}, true},
+            {"EINTR", {EINTR, false, false}, true},
+            {"EIO", {EIO, false, false}, false},
+            {"EIOForEver", {EIO, false, true}, false},
+            {"ENOSPC", {ENOSPC, true, false}, false},
+            {"ENOSPCForEver", {ENOSPC, true, true}, false},
+            {"EDQUOT", {EDQUOT, true, false}, false},
+            {"EDQUOTForEver", {EDQUOT, true, true}, false},
+            {"EACCES", {EACCES, false, false}, false},
+            {"EACCESForEver", {EACCES, false, true}, false},
+            {"ESTALE", {ESTALE, false, false}, false},
+            {"ESTALEForEver", {ESTALE, false, true}, false}};
+}
+
+INSTANTIATE_TEST_SUITE_P(Calls, SystemFaults, testing::ValuesIn(faults()),
+                         [](const auto &one) { return std::string(one.param.name); });
+
+} // namespace

@@ -1,0 +1,36 @@
+// What the rows of the soak must hold, by what the stations told. A save that was begun and not
+// reported as done may be there or not.
+#pragma once
+
+#include <map>
+#include <string>
+
+namespace enginetest
+{
+
+class SoakBook
+{
+public:
+    // A line of soakWork(). False when it contradicts what was told before, or complains.
+    bool read(const std::string &line);
+    // Rows that the table does not hold as they were told last; each is named on standard output.
+    int lost(const std::string &path) const;
+
+    long saves() const { return m_saves; }
+    long lookUps() const { return m_lookUps; }
+    int slowest() const { return m_slowest; } // step, in milliseconds
+
+private:
+    struct Row {
+        std::string known = "-";
+        std::string begun; // empty: nothing
+        bool holds(const std::string &value) const;
+    };
+
+    std::map<int, Row> m_rows;
+    long m_saves = 0;
+    long m_lookUps = 0;
+    int m_slowest = 0;
+};
+
+} // namespace enginetest
