@@ -95,6 +95,14 @@ void require(bool holds, const char *what)
     std::abort();
 }
 
+void requireSound(Handle table, const char *what)
+{
+    const std::vector<std::string> findings = d4check(table);
+    for (const std::string &finding : findings)
+        std::fprintf(stderr, "%s\n", finding.c_str());
+    require(findings.empty(), what);
+}
+
 void readRows(Handle table)
 {
     d4tagSelect(table, 0);
@@ -147,10 +155,7 @@ void changeRows(Handle table)
     require(!appended || d4recCountDo(table) == before + 1, "an appended row is not counted");
     if (!sound)
         return;
-    const std::vector<std::string> findings = d4check(table);
-    for (const std::string &finding : findings)
-        std::fprintf(stderr, "%s\n", finding.c_str());
-    require(findings.empty(), "a sound table is not sound after saves");
+    requireSound(table, "a sound table is not sound after saves");
 }
 
 } // namespace norvane::fuzz

@@ -23,6 +23,8 @@ private:
 
 // Ends the run with a message when something that must hold does not.
 void require(bool holds, const char *what);
+// The same when the full check finds something; its findings are printed first.
+void requireSound(Handle table, const char *what);
 
 // Rows in record order, every field in every form; then some from the end back.
 void readRows(Handle table);

@@ -120,8 +120,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     const Handle alone = d4open(session.handle(), "sample.dbf");
     if (alone == 0)
         return 0;
-    require(d4reindex(alone) != r4success || d4check(alone).empty(),
-            "an index just built is wrong");
+    if (d4reindex(alone) == r4success)
+        requireSound(alone, "an index just built is wrong");
     d4close(alone);
     return 0;
 }

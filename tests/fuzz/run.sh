@@ -2,7 +2,8 @@
 # Builds the fuzz targets and runs each for SECONDS, as many at once as there are cores:
 #   tests/fuzz/run.sh SECONDS [TARGET...]
 # Fails when one finds something; the input is then in build/fuzz/findings. New inputs are kept in
-# build/fuzz/corpus, tests/fuzz/corpus is only read. NORVANE_BUILD=no: they are built.
+# build/fuzz/corpus, tests/fuzz/corpus is only read. NORVANE_BUILD=no: they are built. NORVANE_FUZZ_SEED=N
+# makes a run choose as another one with the same number did.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 
@@ -30,7 +31,7 @@ run_one() {
     ASAN_OPTIONS=quarantine_size_mb=1:thread_local_quarantine_size_kb=64:allocator_may_return_null=1 \
     UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
         "build/fuzz/bin/fuzz_$target" -max_total_time="$2" -max_len=65536 -timeout=10 -entropic=0 \
-        -malloc_limit_mb=64 -rss_limit_mb=96 -print_final_stats=1 -verbosity=1 \
+        -malloc_limit_mb=64 -rss_limit_mb=96 -print_final_stats=1 -verbosity=1 -seed="${NORVANE_FUZZ_SEED:-0}" \
         -artifact_prefix="build/fuzz/findings/$target-" \
         "build/fuzz/corpus/$target" "tests/fuzz/corpus/$target" >"build/fuzz/logs/$target" 2>&1
 }

@@ -187,7 +187,7 @@ Status TableFiles::rebuildIndex()
     const Result<std::vector<TagDef>> tags = tagsToBuild();
     if (!tags.ok())
         return tags.error();
-    if (tags->empty())
+    if (tags->empty() && !m_index)
         return reopened.ok() ? m_indexProblem : reopened;
     if (Status status = m_journal->beginBulk(); !status.ok())
         return status;
