@@ -75,7 +75,7 @@ protected:
         const std::unique_ptr<SimDisk> start = diskOf(db.path());
         const QString before = state(*start->copy(), work);
         QString after;
-        for (int call = 0;; call = call == 0 ? 1 : call + matrixLength(5, 23, 1)) {
+        for (int call = 0;; call = call == 0 ? 1 : call + matrixLength(5, 2, 1)) {
             const std::unique_ptr<SimDisk> disk = start->copy();
             bool done = false;
             bool dead = false;

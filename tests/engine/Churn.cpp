@@ -14,28 +14,6 @@ namespace enginetest
 namespace
 {
 
-// One number as the program takes it: seek, lock, read, add one, store.
-std::string takeId(Handle session, const std::string &path, int &id)
-{
-    const Handle table = d4open(session, path);
-    if (table == 0)
-        return "not opened: " + lastError(session).detail;
-    std::string problem;
-    if (d4seek(table, "PEOPLE.DBF") != r4success)
-        problem = "counter row not found";
-    else if (d4lock(table, d4recNo(table)) != r4success)
-        problem = "not locked: " + lastError(session).detail;
-    else {
-        const Handle field = d4field(table, "lastid");
-        id = f4long(field);
-        f4assignLong(field, id + 1);
-        if (d4flush(table) != r4success || d4unlock(table) != r4success)
-            problem = "not stored: " + lastError(session).detail;
-    }
-    d4close(table);
-    return problem;
-}
-
 class Churner
 {
 public:
@@ -163,6 +141,27 @@ private:
 };
 
 } // namespace
+
+std::string takeId(Handle session, const std::string &path, int &id)
+{
+    const Handle table = d4open(session, path);
+    if (table == 0)
+        return "not opened: " + lastError(session).detail;
+    std::string problem;
+    if (d4seek(table, "PEOPLE.DBF") != r4success)
+        problem = "counter row not found";
+    else if (d4lock(table, d4recNo(table)) != r4success)
+        problem = "not locked: " + lastError(session).detail;
+    else {
+        const Handle field = d4field(table, "lastid");
+        id = f4long(field);
+        f4assignLong(field, id + 1);
+        if (d4flush(table) != r4success || d4unlock(table) != r4success)
+            problem = "not stored: " + lastError(session).detail;
+    }
+    d4close(table);
+    return problem;
+}
 
 std::string takeIds(Handle session, const std::string &path, int count, bool all)
 {

@@ -8,8 +8,11 @@
 namespace enginetest
 {
 
-// Takes numbers from the counter row "people.dbf", opening and closing the table each time as the
-// program does. "first last", or all of them, or what went wrong.
+// Takes one number from the counter row "people.dbf", opening and closing the table as the program
+// does. Empty, or what went wrong.
+std::string takeId(norvane::engine::Handle session, const std::string &path, int &id);
+// Takes numbers from the counter row "people.dbf", the same way. "first last", or all of them, or
+// what went wrong.
 std::string takeIds(norvane::engine::Handle session, const std::string &path, int count,
                     bool all = false);
 

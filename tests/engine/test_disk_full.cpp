@@ -81,7 +81,7 @@ TEST_P(DiskFull, NothingThatWasThereIsDamaged)
     ASSERT_TRUE(whole);
     const std::uint64_t needed = roomy->most;
     ASSERT_GE(needed, used);
-    const std::uint64_t sizes = std::min<std::uint64_t>(matrixLength(16, 8, 64), needed - used);
+    const std::uint64_t sizes = std::min<std::uint64_t>(matrixLength(16, 64, 64), needed - used);
     int refused = 0;
     for (std::uint64_t size = 0; size < sizes; ++size) {
         const auto disk = m_start->copy();

@@ -157,7 +157,7 @@ TEST_P(JournalDeath, AtEachCallTheSaveIsWholeOrAbsent)
 {
     // of longer work a sample, taken evenly
     const std::size_t saves = m_ready.saves.size();
-    const int step = saves == 1 ? 1 : matrixLength(7, 31, 1);
+    const int step = saves == 1 ? 1 : matrixLength(7, 1, 1);
     int whole = 0;
     int absent = 0;
     for (int call = 1;; call += step) {
@@ -190,13 +190,13 @@ TEST_P(JournalDeath, AtEachCallTheSaveIsWholeOrAbsent)
 TEST_P(JournalDeath, DyingAgainInTheRecoveryChangesNothing)
 {
     std::mt19937 random(1);
-    const int step = m_ready.saves.size() == 1 ? 1 : matrixLength(13, 61, 1);
+    const int step = m_ready.saves.size() == 1 ? 1 : matrixLength(13, 1, 1);
     for (int call = 1;; call += step) {
         const Death first = dieAt(*m_ready.disk, m_ready.saves, call);
         if (!first.dead)
             break;
         first.disk->boot += random() % 2; // the machine too
-        const int most = matrixLength(3, 1, 60);
+        const int most = matrixLength(3, 20, 60);
         for (int sample = 0; sample < most; ++sample) {
             const std::unique_ptr<SimDisk> disk = first.disk->copy();
             {

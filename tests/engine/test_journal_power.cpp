@@ -1,8 +1,9 @@
 // Power cuts: what was not synced is there, gone, or torn at a sector's border. Every save that was
 // reported as done is there afterwards, the one under way is whole or absent.
 //
-// NORVANE_POWER_STATES sets how many states are looked at (3000).
+// NORVANE_POWER_STATES sets how many states are looked at, whatever the length of the run.
 #include "engine/SimPeople.h"
+#include "support/MatrixLength.h"
 
 #include <gtest/gtest.h>
 
@@ -45,7 +46,8 @@ Recording record(int saves, std::uint32_t seed)
 std::size_t statesWanted()
 {
     const char *wanted = std::getenv("NORVANE_POWER_STATES");
-    return wanted ? std::strtoul(wanted, nullptr, 10) : 3000;
+    return wanted ? std::strtoul(wanted, nullptr, 10)
+                  : norvane::test::matrixLength<std::size_t>(3000, 30000, 100000);
 }
 
 TEST(JournalPower, AtAnyMomentTheAcknowledgedSavesAreThere)

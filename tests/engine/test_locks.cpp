@@ -108,7 +108,7 @@ TEST_F(Locks, ASleepingHolderKeepsItsRowAndStopsNobodyElse)
 TEST_F(Locks, AStationStoppedAnywhereLeavesTheOthersAnswered)
 {
     code4lockAttempts(m_session, 10);
-    const int stops = matrixLength(20, 5, 400);
+    const int stops = matrixLength(20, 100, 400);
     Station station;
     station.tell("churn " + m_path + " 1 100000");
     int refused = 0;
@@ -253,7 +253,7 @@ TEST(LockStress, NoNumberIsGivenTwice)
     ASSERT_EQ(d4append(table), r4success);
     d4close(table);
 
-    const int each = matrixLength(500, 100, 2000);
+    const int each = matrixLength(500, 1000, 2000);
     std::int32_t next = 1000;
     for (const std::size_t count : {2U, 4U, 8U}) {
         std::vector<Station> stations(count);

@@ -32,7 +32,7 @@ protected:
                   const std::function<bool(const TestSession &)> &work)
     {
         const std::size_t descriptors = openFiles();
-        for (int call = 1;; call += matrixLength(2, 7, 1)) {
+        for (int call = 1;; call += matrixLength(2, 1, 1)) {
             ASSERT_LT(call, 2000);
             restore(withJournal);
             bool failed = false;

@@ -3,7 +3,6 @@
 #include "engine/TableFixture.h"
 #include "long/SoakWorker.h"
 
-#include <algorithm>
 #include <iostream>
 #include <sstream>
 
@@ -26,8 +25,14 @@ bool SoakBook::read(const std::string &line)
     words >> mark >> id >> std::ws;
     std::getline(words, value);
     if (mark == "~") {
-        m_slowest = std::max(m_slowest, id);
+        ++m_steps[id];
         return true;
+    }
+    if (mark == "#") {
+        const bool first = m_numbers.insert(id).second;
+        if (!first)
+            std::cout << "number " << id << " was given twice\n";
+        return first;
     }
     Row &row = m_rows[id];
     if (mark == "?") {
@@ -46,6 +51,16 @@ bool SoakBook::read(const std::string &line)
     }
     std::cout << "a station: " << line << " (told last: " << row.known << ")\n";
     return false;
+}
+
+int SoakBook::longest(int butPercent) const
+{
+    long left = (m_lookUps + static_cast<long>(m_numbers.size())) * butPercent / 100;
+    for (auto step = m_steps.rbegin(); step != m_steps.rend(); ++step) {
+        if ((left -= step->second) < 0)
+            return step->first;
+    }
+    return 0;
 }
 
 int SoakBook::lost(const std::string &path) const

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <map>
+#include <set>
 #include <string>
 
 namespace enginetest
@@ -18,7 +19,9 @@ public:
 
     long saves() const { return m_saves; }
     long lookUps() const { return m_lookUps; }
-    int slowest() const { return m_slowest; } // step, in milliseconds
+    const std::set<int> &numbers() const { return m_numbers; }
+    // The longest of all steps but so many in a hundred, in milliseconds; 0: less than kSoakTold.
+    int longest(int butPercent) const;
 
 private:
     struct Row {
@@ -30,7 +33,8 @@ private:
     std::map<int, Row> m_rows;
     long m_saves = 0;
     long m_lookUps = 0;
-    int m_slowest = 0;
+    std::set<int> m_numbers;     // taken from the counter
+    std::map<int, long> m_steps; // those that took so many milliseconds, when it was told
 };
 
 } // namespace enginetest

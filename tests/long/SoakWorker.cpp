@@ -1,5 +1,6 @@
 #include "long/SoakWorker.h"
 
+#include "engine/Churn.h"
 #include "engine/TableFixture.h"
 
 #include <chrono>
@@ -20,7 +21,10 @@ class Worker
 {
 public:
     Worker(std::string path, int first, int seed, const std::string &durability)
-        : m_path(std::move(path)), m_first(first), m_random(static_cast<std::uint32_t>(seed))
+        : m_path(std::move(path)),
+          m_counter(m_path.substr(0, m_path.rfind('/')) + "/counter.dbf"),
+          m_first(first),
+          m_random(static_cast<std::uint32_t>(seed))
     {
         code4durability(m_session, durability);
     }
@@ -30,15 +34,16 @@ public:
         const auto begun = std::chrono::steady_clock::now();
         if (m_table == 0 && (m_table = d4open(m_session, m_path)) == 0)
             return failed("not opened");
-        const std::string problem = number(1000) == 0 ? walk() : work(m_first + number(kSoakRows));
+        const int choice = number(1000);
+        const std::string problem = choice == 0    ? walk()
+                                    : choice <= 50 ? takeNumber()
+                                                   : work(m_first + number(kSoakRows));
         if (number(10) != 0) // opened and closed around each change, now and then kept open
             closeTable();
         const auto took = std::chrono::duration_cast<std::chrono::milliseconds>(
             std::chrono::steady_clock::now() - begun);
-        if (took > m_slowest) {
-            m_slowest = took;
+        if (took.count() >= kSoakTold)
             std::cout << "~ " << took.count() << '\n' << std::flush;
-        }
         return problem;
     }
 
@@ -91,6 +96,15 @@ private:
         assign(m_table, "active", number(2) == 0 ? "T" : "F");
     }
 
+    std::string takeNumber()
+    {
+        int taken = 0;
+        std::string problem = takeId(m_session, m_counter, taken);
+        if (problem.empty())
+            std::cout << "# " << taken << '\n' << std::flush;
+        return problem;
+    }
+
     // From somewhere a while along the names, which must come in order.
     std::string walk()
     {
@@ -110,10 +124,10 @@ private:
 
     TestSession m_session{400, 10};
     std::string m_path;
+    std::string m_counter;
     int m_first;
     std::mt19937 m_random;
     Handle m_table = 0;
-    std::chrono::milliseconds m_slowest{100};
 };
 
 } // namespace
