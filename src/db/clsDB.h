@@ -3,7 +3,7 @@
 //
 // Sections follow the source files: clsDBLifecycle.cpp, clsDBFiles.cpp, clsDBAttachments.cpp,
 // clsDBTables.cpp, clsDBReadOnly.cpp, clsDBRecords.cpp, clsDBRows.cpp, clsDBIds.cpp,
-// clsDBLogin.cpp, clsDBEditMarks.cpp, clsDBLookups.cpp, clsDBCustomers.cpp.
+// clsDBLogin.cpp, clsDBEditMarks.cpp, clsDBLookups.cpp, clsDBCustomers.cpp, clsDBReports.cpp.
 #pragma once
 
 #include "db/engine/engine.h"
@@ -246,6 +246,20 @@ public:
     bool CustomerHasPS(qint32 custid, qint32 psid, Handle subscriptions = 0);
     // Descriptions of the products and services, joined by ";".
     QString CustomerPS(qint32 custid, Handle subscriptions = 0, Handle categories = 0);
+
+    // ---- reports (clsDBReports.cpp). Columns are rows of the catalogue in the program's folder;
+    // a catalogue below 1 is opened and closed here.
+    static constexpr int RptColText = 1; // how a catalogue's field is read
+    static constexpr int RptColLong = 5;
+    // The field as text; empty when there is no such column.
+    QString GetRptColField(qint32 nColID, const QString &sFieldname, int udDataType,
+                           Handle tbRepCols);
+    QString RptColumnName(qint32 nColID); // the catalogue's own label
+    // The columns of a report type ("C", "I") for a purpose ("D" display, "F" filter), by place.
+    void LBLoadRptColumns(ListSink &lb, const QString &sRptType, const QString &sColPurpose);
+    qint32 RptFilterGetCatType(qint32 nColID); // the lookup list of a filter column; 0
+    // A new report like that one, called "Copy of" it; its rowid, below 1 when there is none.
+    qint32 CopyReport(qint32 nRptID);
 
 private:
     struct Write;
