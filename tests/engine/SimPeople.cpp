@@ -71,6 +71,20 @@ std::string difference(const People &expected, const People &actual)
     return expected.size() == actual.size() ? "" : "there are rows that nobody saved";
 }
 
+std::string differenceFromEither(const People &actual, const People &expected, const People *other,
+                                 bool *found)
+{
+    if (found)
+        *found = false;
+    const std::string problem = difference(expected, actual);
+    if (problem.empty() || !other || *other == expected)
+        return problem;
+    const std::string second = difference(*other, actual);
+    if (found)
+        *found = second.empty();
+    return second.empty() ? "" : problem + " (and after the save: " + second + ")";
+}
+
 } // namespace
 
 std::unique_ptr<SimDisk> diskWithPeople()
@@ -182,15 +196,32 @@ std::string compare(SimDisk &disk, const People &expected, const People *other, 
         problem = readPeople(table, actual);
     if (!problem.empty())
         return problem;
-    if (found)
-        *found = false;
-    problem = difference(expected, actual);
-    if (problem.empty() || !other || *other == expected)
-        return problem;
-    const std::string second = difference(*other, actual);
-    if (found)
-        *found = second.empty();
-    return second.empty() ? "" : problem + " (and after the save: " + second + ")";
+    return differenceFromEither(actual, expected, other, found);
+}
+
+std::string compareReading(SimDisk &disk, const People &expected, const People *other,
+                           bool *refused)
+{
+    const SimSession session(disk);
+    code4readOnly(session, 1);
+    const Handle table = d4open(session, kPeoplePath);
+    *refused = table == 0 && lastError(session).kind == ErrorKind::ReadOnly &&
+               lastError(session).detail.find("where it can be written") != std::string::npos;
+    if (table == 0)
+        return *refused ? "" : "cannot be opened: " + lastError(session).detail;
+    People actual;
+    std::string problem = readPeople(table, actual);
+    for (const auto &[id, person] : actual) {
+        if (problem.empty() && findPerson(table, id) != r4success)
+            problem = "row " + std::to_string(id) + " is not found";
+    }
+    std::size_t walked = 0;
+    selectTag(table, "name");
+    for (Code code = d4top(table); code == r4success; code = d4skip(table, 1))
+        ++walked;
+    if (problem.empty() && walked != actual.size())
+        problem = std::to_string(walked) + " rows in the walk";
+    return problem.empty() ? differenceFromEither(actual, expected, other, nullptr) : problem;
 }
 
 } // namespace enginetest

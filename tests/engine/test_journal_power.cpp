@@ -11,6 +11,7 @@
 
 using namespace norvane::engine;
 using namespace enginetest;
+using norvane::test::matrixLength;
 
 namespace
 {
@@ -21,6 +22,14 @@ struct Recording {
     std::vector<SimDisk::Change> changes;
     std::vector<People> people{{}};     // after 0, 1, 2 ... saves
     std::vector<std::size_t> ends{{0}}; // changes at the time a save was reported as done
+
+    std::size_t savedAt(std::size_t count) const
+    {
+        std::size_t saved = 0;
+        while (saved + 1 < ends.size() && ends[saved + 1] <= count)
+            ++saved;
+        return saved;
+    }
 };
 
 Recording record(int saves, std::uint32_t seed)
@@ -58,9 +67,7 @@ TEST(JournalPower, AtAnyMomentTheAcknowledgedSavesAreThere)
         std::mt19937 random(seed);
         for (int i = 0; i < 1500 && states < statesWanted(); ++i, ++states) {
             const std::size_t count = random() % (made.changes.size() + 1);
-            std::size_t saved = 0;
-            while (saved + 1 < made.ends.size() && made.ends[saved + 1] <= count)
-                ++saved;
+            const std::size_t saved = made.savedAt(count);
             const std::size_t next = std::min(saved + 1, made.people.size() - 1);
             const std::uint32_t choice = random();
             const auto disk = SimDisk::afterPowerCut(*made.start, made.changes, count, choice);
@@ -78,9 +85,7 @@ TEST(JournalPower, ACutDuringTheRecoveryChangesNothing)
     std::mt19937 random(5);
     for (int i = 0; i < 200; ++i) {
         const std::size_t count = random() % (made.changes.size() + 1);
-        std::size_t saved = 0;
-        while (saved + 1 < made.ends.size() && made.ends[saved + 1] <= count)
-            ++saved;
+        const std::size_t saved = made.savedAt(count);
         const std::size_t next = std::min(saved + 1, made.people.size() - 1);
         const auto first = SimDisk::afterPowerCut(*made.start, made.changes, count, random());
         const auto base = first->copy();
@@ -92,6 +97,52 @@ TEST(JournalPower, ACutDuringTheRecoveryChangesNothing)
             ASSERT_EQ(compare(*second, made.people[saved], &made.people[next]), "")
                 << count << " changes, then " << until;
         }
+    }
+}
+
+// Who comes first after the cut may not write.
+TEST(JournalPower, AReaderSeesEverySaveOrIsToldToLetAWriterOpenFirst)
+{
+    const Recording made = record(50, 7);
+    std::mt19937 random(7);
+    int seen = 0;
+    int told = 0;
+    for (int i = 0; i < matrixLength(600, 150, 20000); ++i) {
+        const std::size_t count = random() % (made.changes.size() + 1);
+        const std::size_t saved = made.savedAt(count);
+        const std::size_t next = std::min(saved + 1, made.people.size() - 1);
+        const std::uint32_t choice = random();
+        const auto disk = SimDisk::afterPowerCut(*made.start, made.changes, count, choice);
+        if (i % 2 == 0)
+            disk->boot = 0; // no mark to tell the restart by
+        const std::string where = std::to_string(count) + " changes, choice " +
+                                  std::to_string(choice) + ", " + std::to_string(saved) + " saves";
+        bool refused = false;
+        disk->recording = true;
+        ASSERT_EQ(compareReading(*disk, made.people[saved], &made.people[next], &refused), "")
+            << where;
+        ASSERT_TRUE(disk->changes.empty()) << where;
+        ++(refused ? told : seen);
+        ASSERT_EQ(compare(*disk, made.people[saved], &made.people[next]), "") << where;
+        ASSERT_EQ(compareReading(*disk, made.people[saved], &made.people[next], &refused), "");
+        ASSERT_FALSE(refused) << "after a writer was there; " << where;
+    }
+    EXPECT_GT(seen, 0);
+    EXPECT_GT(told, 0);
+}
+
+// The index went with the machine; that the saves are in the journal is no less true.
+TEST(JournalPower, AnIndexThatIsMissingAfterTheCutTakesNoSaveWithIt)
+{
+    const Recording made = record(20, 3);
+    for (std::uint32_t choice = 0; choice < 20; ++choice) {
+        const auto disk =
+            SimDisk::afterPowerCut(*made.start, made.changes, made.changes.size(), choice);
+        disk->files.erase("/people.cdx");
+        const SimSession session(*disk);
+        d4expectTags(session, "people", peopleTable().tags);
+        (void)d4close(d4open(session, kPeoplePath));
+        ASSERT_EQ(compare(*disk, made.people.back()), "") << choice;
     }
 }
 

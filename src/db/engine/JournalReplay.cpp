@@ -86,8 +86,8 @@ private:
 class Replay
 {
 public:
-    Replay(const std::vector<JournalRecord> &records, const TargetFiles &files, bool force)
-        : m_records(records), m_files(files), m_force(force)
+    Replay(const std::vector<JournalRecord> &records, const TargetFiles &files, Replaying what)
+        : m_records(records), m_files(files), m_what(what)
     {
     }
 
@@ -135,9 +135,11 @@ private:
             if (!fits[i] || (pieces[i]->fresh && !headFits) || coveredLater(pieces, i))
                 continue;
             const std::vector<Byte> bytes = Place(pieces, i).last();
-            if (!m_force && !absent[i] && disks[i] == bytes)
+            if (m_what != Replaying::Everything && !absent[i] && disks[i] == bytes)
                 continue;
             m_result.wrote = true;
+            if (m_what == Replaying::Nothing)
+                continue;
             if (Status status = file->write(pieces[i]->offset, bytes); !status.ok())
                 return status;
         }
@@ -175,7 +177,7 @@ private:
 
     const std::vector<JournalRecord> &m_records;
     const TargetFiles &m_files;
-    bool m_force;
+    Replaying m_what;
     std::array<std::vector<const Piece *>, kTargets> m_pieces;
     ReplayResult m_result;
 };
@@ -183,9 +185,9 @@ private:
 } // namespace
 
 Result<ReplayResult> replay(const std::vector<JournalRecord> &records, const TargetFiles &files,
-                            bool force)
+                            Replaying what)
 {
-    return Replay(records, files, force).run();
+    return Replay(records, files, what).run();
 }
 
 } // namespace norvane::engine

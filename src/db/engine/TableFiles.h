@@ -187,6 +187,7 @@ private:
     Status settleAlone(LockMode mode);
     Status settleAtOpen();
     Status settleForReading();
+    Error staleIndex();
     Status recover();
 
     // TableSelfCheck.cpp

@@ -312,7 +312,7 @@ Status TableJournal::checkpoint()
             m_journal.records(m_head, kJournalStart, m_head.first);
         if (!records.ok())
             return records.error();
-        const Result<ReplayResult> result = replay(*records, m_files, true);
+        const Result<ReplayResult> result = replay(*records, m_files, Replaying::Everything);
         if (!result.ok())
             return result.error();
     }

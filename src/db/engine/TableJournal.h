@@ -34,7 +34,8 @@ public:
         Finish, // a save is under way, or its station died
         Repair  // nobody can be at it: an unfinished load, a restart of the machine, doubtful tags
     };
-    // One small read.
+    // One small read, after a restart of the machine more for a reader. Who only reads is refused
+    // what would have to be written; Repair tells it that the tags cannot be relied on.
     Result<Need> look(bool readOnly);
     // As of the last look.
     bool missing() const { return m_state == Journal::State::Missing; }
@@ -100,6 +101,7 @@ private:
 
     // TableRecovery.cpp
     bool restarted() const;
+    Result<Need> lookForReading();
     Status replayRecords(bool all, bool &rebuild);
     Result<bool> filesAreOlder(const std::vector<JournalRecord> &records) const;
     Status takeBackGrowth();
@@ -125,6 +127,7 @@ private:
     std::uint64_t m_recordLength;
     std::uint32_t m_shape;
     bool m_firstUse;
+    std::uint64_t m_lookedThrough = 0; // salt of the records that a reader found in the files
     bool m_inBulk = false;
 };
 

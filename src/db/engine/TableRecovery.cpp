@@ -22,6 +22,13 @@ Error unfinished(const std::string &path)
             "written, and the save is finished"};
 }
 
+Error unwritten(const std::string &path)
+{
+    return {ErrorKind::ReadOnly, path,
+            "the machine went down before all saves had reached the files; open the folder once "
+            "where it can be written, and they are put there"};
+}
+
 } // namespace
 
 // True when files written before may have lost their last bytes with the machine.
@@ -48,14 +55,41 @@ Result<TableJournal::Need> TableJournal::look(bool readOnly)
     const bool repair = doubtful || m_head.has(repairs) || restarted();
     const bool finish = !doubtful && m_head.begun != m_head.applied;
     if (readOnly) {
-        // A journal that makes no sense is no reason not to read, a half load is.
-        if (finish || (!doubtful && m_head.has(repairs)))
+        if (doubtful)
+            return Need::Repair;
+        if (finish || m_head.has(repairs))
             return unfinished(m_files.at(Target::Table)->path());
-        return Need::Nothing;
+        return lookForReading();
     }
     if (repair)
         return Need::Repair;
     return finish ? Need::Finish : Need::Nothing;
+}
+
+// Who cannot put the records of before a restart where they belong may read when they are there.
+Result<TableJournal::Need> TableJournal::lookForReading()
+{
+    if (!restarted() || m_lookedThrough == m_head.salt)
+        return Need::Nothing;
+    const Result<std::vector<JournalRecord>> records =
+        m_journal.records(m_head, kJournalStart, m_head.first);
+    if (!records.ok())
+        return records.error();
+    const Result<bool> older = filesAreOlder(*records);
+    if (!older.ok())
+        return older.error();
+    if (*older)
+        return Need::Repair;
+    const Result<ReplayResult> result = replay(*records, m_files, Replaying::Nothing);
+    if (!result.ok())
+        return result.error();
+    if (result->wrote)
+        return unwritten(m_files.at(Target::Table)->path());
+    if (result->foreign || m_head.first + records->size() <= m_head.applied)
+        return Need::Repair;
+    m_lookedThrough = m_head.salt;
+    m_firstUse = false;
+    return Need::Nothing;
 }
 
 Result<bool> TableJournal::recover()
@@ -120,7 +154,8 @@ Status TableJournal::replayRecords(bool all, bool &rebuild)
             return status;
     }
     const Result<ReplayResult> result =
-        replay(*records, m_files, m_head.has(JournalHeader::kForce));
+        replay(*records, m_files,
+               m_head.has(JournalHeader::kForce) ? Replaying::Everything : Replaying::WhatDiffers);
     if (!result.ok())
         return result.error();
     rebuild = rebuild || result->foreign;
@@ -134,6 +169,8 @@ Status TableJournal::replayRecords(bool all, bool &rebuild)
 // At the last checkpoint all three files were synced, so none can be from before it.
 Result<bool> TableJournal::filesAreOlder(const std::vector<JournalRecord> &records) const
 {
+    if (!m_files.at(Target::Index)) // what is not there tells nothing of the others
+        return false;
     const Result<std::uint32_t> counter = counterInIndex();
     if (!counter.ok())
         return counter.error();

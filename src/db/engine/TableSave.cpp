@@ -199,6 +199,8 @@ Status TableFiles::settle(LockMode mode, const LockPatience &patience)
         return need.error();
     if (*need == TableJournal::Need::Nothing)
         return {};
+    if (readOnly())
+        return m_copy ? Status() : Status(staleIndex());
     if (mode == LockMode::Exclusive)
         return recover();
     bool exclusive = false;
@@ -256,13 +258,23 @@ Status TableFiles::settleAtOpen()
 // What looks unfinished may be a save under way; with the lock held it is not.
 Status TableFiles::settleForReading()
 {
-    if (m_journal->look(true).ok())
+    using Need = TableJournal::Need;
+    if (const Result<Need> need = m_journal->look(true); need.ok() && *need == Need::Nothing)
         return {};
     if (Status status = takeCommitLock(LockMode::Shared, kMendPatience); !status.ok())
         return status;
-    const Status status = m_journal->look(true).status();
+    const Result<Need> need = m_journal->look(true);
     const Status released = lockFile().unlock(kLockByte, LockMode::Shared);
-    return status.ok() ? released : status;
+    if (!need.ok())
+        return need.error();
+    if (*need != Need::Nothing && wantsIndex() && m_indexProblem.ok())
+        m_indexProblem = staleIndex();
+    return released;
+}
+
+Error TableFiles::staleIndex()
+{
+    return indexDamage("the journal does not tell whether the index has all changes");
 }
 
 Status TableFiles::recover()
