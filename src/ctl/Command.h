@@ -49,6 +49,7 @@ Command demoCommand();
 Command bulkCommand();
 Command importCommand();
 Command dumpCommand();
+Command reportCommand();
 Command checkCommand();
 Command repairCommand();
 Command reindexCommand();

@@ -98,7 +98,7 @@ int dispatch(const QStringList &words, Console &console)
 QList<Command> commands()
 {
     return {newCommand(),  demoCommand(),  bulkCommand(),   importCommand(),
-            dumpCommand(), checkCommand(), repairCommand(), reindexCommand()};
+            dumpCommand(), reportCommand(), checkCommand(), repairCommand(), reindexCommand()};
 }
 
 int runProgram(const QStringList &words, Console &console)

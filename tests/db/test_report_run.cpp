@@ -20,7 +20,7 @@ protected:
         table.columns = ReportRun::columns(parser);
         lookedAt = 0;
         count = ReportRun(type, parser).run(table, [this](qint32) { return ++lookedAt < most; });
-        table.sortBy(table.firstDataColumn());
+        table.deliver(parser.m_bGroupByFirstCol);
         return table;
     }
     static QList<qint32> rowids(const ReportTable &table)

@@ -59,6 +59,14 @@ std::size_t ReportTable::firstDataColumn() const
     return !columns.empty() && columns.front().id == RowNumberColumn ? 1 : 0;
 }
 
+void ReportTable::deliver(bool suppressRepeats)
+{
+    sortBy(firstDataColumn());
+    numberRows();
+    if (suppressRepeats && columns.size() > 1)
+        elimRepeatingValues(firstDataColumn());
+}
+
 void ReportTable::sortBy(std::size_t column)
 {
     if (column >= columns.size())

@@ -27,6 +27,9 @@ public:
     QString cell(std::size_t row, std::size_t column) const;
     // The column that a report is delivered in the order of: the first but for the row numbers.
     std::size_t firstDataColumn() const;
+    // In the order of its first data column, numbered, and with the cells of that column that
+    // repeat the one above emptied when asked to (not in a table of one column).
+    void deliver(bool suppressRepeats);
     // Ascending; equal cells stay in the order they had.
     void sortBy(std::size_t column);
     // 1, 2, 3 ... in the order of the rows; nothing without that column.
