@@ -4,6 +4,17 @@ find_package(GTest REQUIRED)
 find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
 include(GoogleTest)
 
+# Where this tree lies, as a header: on the command line it would keep a compiler cache from
+# serving another tree.
+set(NORVANE_TEST_PLACES ${CMAKE_BINARY_DIR}/places)
+file(CONFIGURE OUTPUT ${NORVANE_TEST_PLACES}/TestPlaces.h CONTENT
+"// Where the tests find the sources and what was built.
+#pragma once
+
+#define NORVANE_SOURCE_DIR \"${PROJECT_SOURCE_DIR}\"
+#define NORVANE_BINARY_DIR \"${CMAKE_BINARY_DIR}\"
+")
+
 function(norvane_test name)
     cmake_parse_arguments(ARG "" "TIMEOUT" "SOURCES;LIBS" ${ARGN})
     if(NOT ARG_TIMEOUT)
@@ -11,9 +22,7 @@ function(norvane_test name)
     endif()
     add_executable(${name} ${ARG_SOURCES})
     target_link_libraries(${name} PRIVATE norvane_flags ${ARG_LIBS} GTest::gtest)
-    target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
-    target_compile_definitions(${name} PRIVATE
-        NORVANE_SOURCE_DIR="${PROJECT_SOURCE_DIR}" NORVANE_BINARY_DIR="${CMAKE_BINARY_DIR}")
+    target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests ${NORVANE_TEST_PLACES})
     gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
         PROPERTIES TIMEOUT ${ARG_TIMEOUT}
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;TZ=UTC;XDG_CONFIG_HOME=${CMAKE_BINARY_DIR}/test-home")

@@ -83,7 +83,7 @@ bool frmIssueAction::show(qint32 actionId, qint32 issueId, Mode mode)
 {
     Init(actionId, issueId, mode);
     exec();
-    return done();
+    return wasStored();
 }
 
 void frmIssueAction::Init(qint32 actionId, qint32 issueId, Mode mode)

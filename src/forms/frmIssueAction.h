@@ -24,10 +24,10 @@ public:
     ~frmIssueAction() override;
 
     void Init(qint32 actionId, qint32 issueId, Mode mode);
-    // Init, and the dialog until it is closed; what done() tells then.
+    // Init, and the dialog until it is closed; what wasStored() tells then.
     bool show(qint32 actionId, qint32 issueId, Mode mode);
     // Something was stored or deleted.
-    bool done() const { return m_done; }
+    bool wasStored() const { return m_done; }
     qint32 ActionID() const { return m_actionId; } // of the stored row
 
     void accept() override;

@@ -5,6 +5,7 @@
 #include "common/base/AppInfo.h"
 #include "common/base/clsSystem.h"
 #include "common/base/Failure.h"
+#include "TestPlaces.h"
 
 #include <gtest/gtest.h>
 

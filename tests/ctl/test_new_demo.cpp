@@ -1,6 +1,7 @@
 #include "ctl/CtlRun.h"
 #include "db/clsDB.h"
 #include "db/Schema.h"
+#include "TestPlaces.h"
 
 #include <gtest/gtest.h>
 

@@ -3,6 +3,7 @@
 #include "db/import/clsImportData.h"
 #include "db/import/ImportRun.h"
 #include "db/Schema.h"
+#include "TestPlaces.h"
 
 #include <gtest/gtest.h>
 

@@ -161,7 +161,7 @@ TEST_F(Import, AFolderThatGoesAwayOnTheRunIsToldOnce)
     const ImportFile file("DESCRIPTION\nA1\nB1\nC1\nD1\n");
     person.expect(u"Unable to open: "_s + gDB.LastIDTable());
     ImportRun run(gDB, States, {u"DESCRIPTION"_s}, 4);
-    run.onStored([this](qint32) { QFile::remove(gDB.LastIDTable()); });
+    run.onStored([](qint32) { QFile::remove(gDB.LastIDTable()); });
     const ImportResult result = run.ImportData_Detail(file.path());
     EXPECT_EQ(4, result.tried);
     EXPECT_EQ(1, result.stored);

@@ -2,6 +2,7 @@
 #include "db/Schema.h"
 #include "db/templates/SeedFile.h"
 #include "support/TempDatabase.h"
+#include "TestPlaces.h"
 
 #include <gtest/gtest.h>
 

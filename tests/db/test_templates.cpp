@@ -2,6 +2,7 @@
 #include "DbTest.h"
 
 #include "db/TableUse.h"
+#include "TestPlaces.h"
 
 #include <QDir>
 #include <QFile>

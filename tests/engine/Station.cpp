@@ -1,4 +1,5 @@
 #include "engine/Station.h"
+#include "TestPlaces.h"
 
 #include <cerrno>
 #include <csignal>

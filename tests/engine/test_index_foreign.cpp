@@ -1,6 +1,7 @@
 // Index files made by another program: read, checked against their rows, changed, checked again.
 #include "db/engine/KeyEncoding.h"
 #include "engine/IndexSupport.h"
+#include "TestPlaces.h"
 
 using namespace norvane::test;
 

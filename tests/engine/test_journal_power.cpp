@@ -20,8 +20,8 @@ namespace
 struct Recording {
     std::unique_ptr<SimDisk> start;
     std::vector<SimDisk::Change> changes;
-    std::vector<People> people{{}};     // after 0, 1, 2 ... saves
-    std::vector<std::size_t> ends{{0}}; // changes at the time a save was reported as done
+    std::vector<People> people{{}};   // after 0, 1, 2 ... saves
+    std::vector<std::size_t> ends{0}; // changes at the time a save was reported as done
 
     std::size_t savedAt(std::size_t count) const
     {

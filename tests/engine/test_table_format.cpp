@@ -4,6 +4,7 @@
 
 #include "db/engine/Bytes.h"
 #include "db/engine/TableFormat.h"
+#include "TestPlaces.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,5 @@
 #include "house/SourceTree.h"
+#include "TestPlaces.h"
 
 #include <QDir>
 #include <QDirIterator>

@@ -1,6 +1,7 @@
 // What the command line means, and what the program answers without a display.
 #include "shell/CommandLine.h"
 #include "shell/Startup.h"
+#include "TestPlaces.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,7 @@
 // Several instances of the program, each a process of its own.
 #include "common/ui/FormWindow.h"
 #include "shell/SingleInstance.h"
+#include "TestPlaces.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,6 @@
 // The guided tour is the whole program at work; here it must come out right.
+#include "TestPlaces.h"
+
 #include <gtest/gtest.h>
 
 #include <QDir>

@@ -1,4 +1,5 @@
 #include "support/Station.h"
+#include "TestPlaces.h"
 
 #include <gtest/gtest.h>
 

@@ -10,6 +10,7 @@
 #include "support/DialogDriver.h"
 #include "support/FakeHost.h"
 #include "support/RecordingSwitchboard.h"
+#include "TestPlaces.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,6 @@
 // Every icon of the set draws, in a colour that reads on the palette in force.
 #include "common/ui/Icons.h"
+#include "TestPlaces.h"
 
 #include <gtest/gtest.h>
 
