@@ -89,6 +89,7 @@ run_network() {
 }
 tests_in() {
     grep -hc '^\[       OK \]' "$1" | awk '{n += $1} END {printf "%d tests passed", n}'
+    grep -h '^matrix: ' "$1" | sed 's/^matrix: /, /' | tr -d '\n'
     grep -h '^\[  FAILED  \] .*[a-z]$' "$1" | sort -u | paste -sd' ' | sed 's/^/ /;/^ $/d'
 }
 

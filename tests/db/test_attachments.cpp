@@ -6,8 +6,11 @@
 
 #include <QDir>
 #include <QFile>
+#include <QSet>
 
 #include <csignal>
+#include <filesystem>
+#include <fstream>
 #include <sys/resource.h>
 
 namespace
@@ -97,6 +100,52 @@ TEST_F(Attachments, AnyNameThatADiskTakesIsKeptAsItIs)
     EXPECT_TRUE(folder.remove(u" blanks around "_s));
     EXPECT_TRUE(gDB.DeleteAttachments(17, u"_ps"_s));
     EXPECT_FALSE(folder.exists());
+}
+
+// Names that mean something, or another thing, to other systems: here each is a file of its own.
+TEST_F(Attachments, NamesThatOtherSystemsReadOtherwiseStayApart)
+{
+    ASSERT_TRUE(folder.create());
+    const QString composed = u"r\u00E9sum\u00E9.txt"_s;
+    const QString decomposed = u"re\u0301sume\u0301.txt"_s;
+    QStringList names{u"CON"_s,       u"NUL"_s,    u"nul.txt"_s,     u"COM1"_s,      u"a:b"_s,
+                      u"a:b:$DATA"_s, u"C:"_s,     u"dot"_s,         u"dot."_s,      u"dot.."_s,
+                      u"blank"_s,     u"blank "_s, u"Offer.pdf"_s,   u"offer.pdf"_s, u"OFFER.PDF"_s,
+                      composed,       decomposed,  u"stra\u00DFe"_s, u"STRASSE"_s};
+    for (const QString &name : names) {
+        ASSERT_TRUE(AttachmentFolder::isPlainName(name)) << qPrintable(name);
+        EXPECT_FALSE(folder.contains(name)) << qPrintable(name); // none is one from before
+        ASSERT_TRUE(folder.add(outside(u"source"_s, name.toUtf8()), name).done());
+    }
+    QStringList there = listed();
+    EXPECT_EQ(QSet<QString>(names.begin(), names.end()), QSet<QString>(there.begin(), there.end()));
+    for (const QString &name : names)
+        EXPECT_EQ(name.toUtf8(), bytes(folder.filePath(name))) << qPrintable(name);
+
+    EXPECT_FALSE(folder.rename(u"offer.pdf"_s, u"Offer.pdf"_s)); // is another one
+    EXPECT_FALSE(folder.rename(decomposed, composed));
+    EXPECT_TRUE(folder.rename(u"NUL"_s, u"NUL."_s));
+    EXPECT_TRUE(folder.remove(u"dot."_s));
+    EXPECT_TRUE(folder.contains(u"dot"_s) && folder.contains(u"dot.."_s));
+    EXPECT_TRUE(gDB.DeleteAttachments(17, u"_ps"_s));
+    EXPECT_FALSE(folder.exists());
+}
+
+// A name that is no text in the system's encoding came from elsewhere: its record's other files are
+// used as ever, and nobody says that all is deleted while it is there.
+TEST_F(Attachments, ANameThatIsNoTextStandsInNobodysWay)
+{
+    ASSERT_TRUE(folder.create());
+    const std::string foreign = folder.path().toStdString() + "/\xe9t\xe9";
+    std::ofstream(foreign) << "x";
+    ASSERT_TRUE(std::filesystem::exists(foreign));
+    ASSERT_TRUE(folder.add(outside(u"a"_s, "a"), u"a"_s).done());
+    EXPECT_EQ("a", bytes(folder.filePath(u"a"_s)));
+    EXPECT_TRUE(folder.remove(u"a"_s));
+    const bool deleted = gDB.DeleteAttachments(17, u"_ps"_s);
+    EXPECT_EQ(deleted, !std::filesystem::exists(foreign));
+    EXPECT_EQ(deleted, !folder.exists());
+    std::filesystem::remove(foreign);
 }
 
 TEST_F(Attachments, ANameLeadsNowhereElse)

@@ -13,6 +13,7 @@
 
 using namespace norvane::engine;
 using namespace enginetest;
+using norvane::test::countPoint;
 using norvane::test::matrixLength;
 
 namespace
@@ -131,6 +132,7 @@ TEST_P(ByteFlips, AreSurvivedAndFound)
         for (const Byte value : {Byte{0}, Byte{255}, static_cast<Byte>(was + 1), bit}) {
             if (value == was)
                 continue;
+            countPoint("changed bytes");
             const auto disk = m_start->copy();
             disk->bytes(path)[place] = value;
             useAndRepair(*disk, std::string(GetParam()) == "cdx");

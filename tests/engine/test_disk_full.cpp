@@ -9,6 +9,7 @@
 
 using namespace norvane::engine;
 using namespace enginetest;
+using norvane::test::countPoint;
 using norvane::test::matrixLength;
 
 namespace
@@ -84,6 +85,7 @@ TEST_P(DiskFull, NothingThatWasThereIsDamaged)
     const std::uint64_t sizes = std::min<std::uint64_t>(matrixLength(16, 64, 64), needed - used);
     int refused = 0;
     for (std::uint64_t size = 0; size < sizes; ++size) {
+        countPoint("sizes of a full disk");
         const auto disk = m_start->copy();
         disk->room = used + (needed - used) * size / sizes;
         const std::size_t done = work(*disk, whole);

@@ -12,6 +12,7 @@
 
 using namespace norvane::engine;
 using namespace enginetest;
+using norvane::test::countPoint;
 using norvane::test::matrixLength;
 
 namespace
@@ -162,6 +163,7 @@ TEST_P(JournalDeath, AtEachCallTheSaveIsWholeOrAbsent)
     int absent = 0;
     for (int call = 1;; call += step) {
         ASSERT_LT(call, 9000);
+        countPoint("deaths in a save");
         const Death death = dieAt(*m_ready.disk, m_ready.saves, call);
         SimDisk &disk = *death.disk;
         EXPECT_EQ(disk.locksHeld(), 0U) << "call " << call;
@@ -198,6 +200,7 @@ TEST_P(JournalDeath, DyingAgainInTheRecoveryChangesNothing)
         first.disk->boot += random() % 2; // the machine too
         const int most = matrixLength(3, 20, 60);
         for (int sample = 0; sample < most; ++sample) {
+            countPoint("deaths in a recovery");
             const std::unique_ptr<SimDisk> disk = first.disk->copy();
             {
                 SimSession session(*disk);
@@ -221,6 +224,7 @@ TEST_P(RebuildDeath, NeverAnEmptyOrHalfIndexIsTaken)
     const Prepared ready = prepare({"", inserts(1, 60, "a text"), {}});
     for (int call = 1;; ++call) {
         ASSERT_LT(call, 3000);
+        countPoint("deaths and full disks in a rebuild");
         const std::unique_ptr<SimDisk> disk = ready.disk->copy();
         Code code = r4failure;
         bool hit = false;

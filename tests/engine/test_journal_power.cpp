@@ -70,6 +70,7 @@ TEST(JournalPower, AtAnyMomentTheAcknowledgedSavesAreThere)
             const std::size_t saved = made.savedAt(count);
             const std::size_t next = std::min(saved + 1, made.people.size() - 1);
             const std::uint32_t choice = random();
+            norvane::test::countPoint("states after a power cut");
             const auto disk = SimDisk::afterPowerCut(*made.start, made.changes, count, choice);
             ASSERT_EQ(compare(*disk, made.people[saved], &made.people[next]), "")
                 << "recording " << seed << ", " << count << " changes of " << made.changes.size()
@@ -92,6 +93,7 @@ TEST(JournalPower, ACutDuringTheRecoveryChangesNothing)
         first->recording = true;
         SimSession(*first).look();
         for (int again = 0; again < 4; ++again) {
+            norvane::test::countPoint("states after a second power cut");
             const std::size_t until = random() % (first->changes.size() + 1);
             const auto second = SimDisk::afterPowerCut(*base, first->changes, until, random());
             ASSERT_EQ(compare(*second, made.people[saved], &made.people[next]), "")

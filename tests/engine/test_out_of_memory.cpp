@@ -9,6 +9,7 @@
 
 using namespace norvane::engine;
 using namespace enginetest;
+using norvane::test::countPoint;
 using norvane::test::matrixLength;
 
 namespace
@@ -111,6 +112,7 @@ protected:
         const std::size_t descriptors = openFiles();
         for (int allocation = 1;; allocation += matrixLength(7, 1, 1)) {
             ASSERT_LT(allocation, 20000);
+            countPoint("failing allocations");
             restore(GetParam().withJournal);
             bool failed = false;
             bool through = false;
@@ -186,6 +188,7 @@ TEST_F(LyingLengths, AreNotBelieved)
     for (std::size_t i = 0; i < places.size(); i += i < 12 ? 1 : step) {
         const Place &place = places[i];
         for (const int value : {0xFF, 0x7F, 0x01}) {
+            countPoint("lying lengths");
             restore(false);
             std::filesystem::remove(m_path.substr(0, m_path.size() - 3) + "nvj.bad");
             if (place.file == 3)

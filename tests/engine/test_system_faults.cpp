@@ -13,6 +13,7 @@
 
 using namespace norvane::engine;
 using namespace enginetest;
+using norvane::test::countPoint;
 using norvane::test::matrixLength;
 
 namespace
@@ -34,6 +35,7 @@ protected:
         const std::size_t descriptors = openFiles();
         for (int call = 1;; call += matrixLength(2, 1, 1)) {
             ASSERT_LT(call, 2000);
+            countPoint("failing system calls");
             restore(withJournal);
             bool failed = false;
             bool done = false;
