@@ -7,7 +7,7 @@
 #   strace_kills.sh BINDIR      NORVANE_MATRIX=short|long: more points, or each one
 set -euo pipefail
 bin=$1
-case "${NORVANE_MATRIX:-}" in short) step=2 ;; long) step=1 ;; *) step=5 ;; esac
+case "${NORVANE_MATRIX:-}" in short) step=3 ;; long) step=1 ;; *) step=5 ;; esac
 # Those of other machines and libraries too; what is not called costs one run.
 calls='openat open creat write writev pwrite64 pwritev pwritev2 copy_file_range sendfile sendfile64
     ftruncate truncate fallocate fdatasync fsync sync_file_range msync syncfs fcntl flock
