@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QGroupBox>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
@@ -132,26 +133,34 @@ TEST(LockControlsTest, LocksWhatCarriesTheTagByItsKind)
     auto *line = tagged<QLineEdit>(page, QStringLiteral("E")); // on a page of the form
     auto *memo = tagged<QPlainTextEdit>(&form, QStringLiteral("E"));
     auto *combo = tagged<QComboBox>(&form, QStringLiteral("E"));
+    auto *list = tagged<QListWidget>(&form, QStringLiteral("E"));
+    auto *options = tagged<QGroupBox>(&form, QStringLiteral("E"));
     auto *button = tagged<QPushButton>(&form, QStringLiteral("E"));
     auto *other = tagged<QLineEdit>(&form, QStringLiteral("custno"));
 
     LockControls(&form, true, QStringLiteral("E"));
     EXPECT_TRUE(line->isReadOnly() && line->isEnabled()); // readable, can be selected
     EXPECT_TRUE(memo->isReadOnly() && memo->isEnabled());
-    EXPECT_FALSE(combo->isEnabled());
+    EXPECT_FALSE(combo->isEnabled() || list->isEnabled() || options->isEnabled());
     EXPECT_FALSE(button->isEnabled());
     EXPECT_FALSE(other->isReadOnly());
     for (const QWidget *field : {static_cast<QWidget *>(line), static_cast<QWidget *>(memo),
-                                 static_cast<QWidget *>(combo)})
+                                 static_cast<QWidget *>(combo), static_cast<QWidget *>(list)})
         EXPECT_EQ(back(field), QColor(0xFF, 0xFF, 0xC0));
     EXPECT_NE(back(other), QColor(0xFF, 0xFF, 0xC0));
     // A locked combo box shows its text as clearly as the text boxes beside it.
     EXPECT_EQ(combo->palette().color(QPalette::Disabled, QPalette::ButtonText),
               line->palette().color(QPalette::Active, QPalette::Text));
+    EXPECT_EQ(list->palette().color(QPalette::Disabled, QPalette::Text),
+              line->palette().color(QPalette::Active, QPalette::Text));
+    EXPECT_GT(contrast(form.palette().color(QPalette::Window),
+                       options->palette().color(QPalette::Disabled, QPalette::WindowText)),
+              4.5);
 
     LockControls(&form, false, QStringLiteral("E"));
     EXPECT_FALSE(line->isReadOnly() || memo->isReadOnly());
-    EXPECT_TRUE(combo->isEnabled() && button->isEnabled());
+    EXPECT_TRUE(combo->isEnabled() && list->isEnabled() && options->isEnabled());
+    EXPECT_TRUE(button->isEnabled());
     EXPECT_EQ(back(line), QColor(Qt::white));
 }
 

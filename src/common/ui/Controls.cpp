@@ -4,7 +4,9 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QGroupBox>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPlainTextEdit>
 #include <QShortcut>
 #include <QTextEdit>
@@ -55,6 +57,20 @@ void paintField(QWidget *field, bool locked)
     field->setPalette(palette);
 }
 
+// The same for a frame of options, which still looks locked.
+void paintOptions(QWidget *frame, bool locked)
+{
+    const QPalette standard = QApplication::palette(frame);
+    QPalette palette;
+    if (locked) {
+        const QColor text = blend(standard.color(QPalette::Active, QPalette::Window),
+                                  standard.color(QPalette::Active, QPalette::WindowText), 0.7);
+        palette.setColor(QPalette::Disabled, QPalette::WindowText, text);
+        palette.setColor(QPalette::Disabled, QPalette::Text, text);
+    }
+    frame->setPalette(palette);
+}
+
 template <class Box>
 bool lockText(QWidget *control, bool locked)
 {
@@ -75,8 +91,11 @@ void lockControl(QWidget *control, bool locked)
     if (lockText<QLineEdit>(control, locked) || lockText<QPlainTextEdit>(control, locked) ||
         lockText<QTextEdit>(control, locked) || lockText<QAbstractSpinBox>(control, locked))
         return;
-    if (qobject_cast<QComboBox *>(control) != nullptr)
+    if (qobject_cast<QComboBox *>(control) != nullptr ||
+        qobject_cast<QListWidget *>(control) != nullptr)
         paintField(control, locked);
+    if (qobject_cast<QGroupBox *>(control) != nullptr)
+        paintOptions(control, locked);
     control->setEnabled(!locked);
 }
 

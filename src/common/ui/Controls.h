@@ -48,8 +48,8 @@ public:
 
 // The tag of a control: dynamic property "tag" set in the Designer file.
 QString controlTag(const QWidget *control);
-// Each control of the form with that tag: text and combo boxes get the read-only or the editable
-// colour and are locked (text) or disabled; other kinds are only enabled or disabled.
+// Each control of the form with that tag: text, combo and list boxes get the read-only or the
+// editable colour and are locked (text) or disabled; other kinds are only enabled or disabled.
 void LockControls(QWidget *form, bool locked, const QString &tag);
 // Pale yellow and white on a light palette, blends of the same meaning on a dark one.
 QColor readOnlyColour(const QWidget *control);
