@@ -1,7 +1,7 @@
 // The guided tour: the real program goes through a working day by itself, on a database of its
 // own, saves a picture of each step and looks at what was stored. Tour.cpp runs and watches it,
-// TourSteps.cpp is the day, TourRecords.cpp its work on the records of a customer, and
-// TourOffice.cpp what an administrator does in it.
+// TourSteps.cpp is the day, TourRecords.cpp its work on the records of a customer,
+// TourReports.cpp its reports, and TourOffice.cpp what an administrator does in it.
 #pragma once
 
 #include "shell/Startup.h"
@@ -52,6 +52,7 @@ private:
     void extendList(); // these three: TourOffice.cpp
     void addUser();
     void readHelp();
+    void makeReport(); // TourReports.cpp
     void arrangeWindows();
     void reopen();
     void showAbout();

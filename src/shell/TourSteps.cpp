@@ -54,6 +54,7 @@ void Tour::allSteps()
     step(QStringLiteral("See what the second workstation changed"), [this] { seeSecondStation(); });
     step(QStringLiteral("Add an entry to a lookup list"), [this] { extendList(); });
     step(QStringLiteral("Give a colleague a login"), [this] { addUser(); });
+    step(QStringLiteral("Make a report"), [this] { makeReport(); });
     step(QStringLiteral("Arrange the windows"), [this] { arrangeWindows(); });
     step(QStringLiteral("Close the database and open it again"), [this] { reopen(); });
     step(QStringLiteral("Help Center, tip of the day and manual"), [this] { readHelp(); });

@@ -3,7 +3,8 @@
 //
 // frmMain.cpp: its life and states. frmMainMenus.cpp: which commands there are and where they
 // stand. frmMainFile.cpp: the File commands. frmMainCommands.cpp: customers.
-// frmMainRecords.cpp: the records that belong to customers. frmMainHelp.cpp: Help.
+// frmMainRecords.cpp: the records that belong to customers. frmMainReports.cpp: reports.
+// frmMainHelp.cpp: Help.
 // frmMainAdmin.cpp: users, passwords and statistics. frmMainLists.cpp: lookup lists.
 // frmMainMail.cpp: mail. frmMainWindows.cpp: child windows and the Window menu.
 #pragma once
@@ -45,6 +46,11 @@ public:
     void ShowPS(qint32 rowid, qint32 custid, bool bEdit) override;
     void ShowIssue(qint32 rowid, qint32 custid, bool bEdit, qint32 templateId) override;
     void ShowIssueTemplate(qint32 rowid, bool bEdit);
+    void ShowReport(qint32 rowid) override;
+    void ShowProductReport() override;
+    void ShowReportDef(qint32 rowid, const QString &type) override;
+    void NotifyReportList(qint32 rowid) override;
+    void Reports(); // the list of all reports
     bool GetIssueTemplateID(qint32 &id) override;
     void NotifyCustomer(qint32 custid, int what, qint32 id) override;
     void LookupCustomer() override;

@@ -57,6 +57,7 @@ const std::vector<frmMain::MenuLine> &frmMain::menuLines()
          "new-customer", "Ctrl+N"},
         {"mnuView", "mnuViewLookupByIssueNumber", QT_TR_NOOP("Lookup by Issue ID..."),
          &frmMain::LookupByIssueNumber, "issues", "Ctrl+I"},
+        {"mnuView", "mnuViewReports", QT_TR_NOOP("&Reports"), &frmMain::Reports, "reports"},
         {"mnuView", nullptr, QT_TR_NOOP("Administration")},
         {"mnuView", "mnuViewListMgmt", QT_TR_NOOP("List Management"), nullptr, "lists"},
         {"mnuViewListMgmt", "mnuViewLMCustCat", QT_TR_NOOP("Customer Categories..."),
@@ -126,6 +127,7 @@ const std::vector<frmMain::ToolLine> &frmMain::toolLines()
     static const std::vector<ToolLine> lines{
         {"NEWCUST", nullptr, QT_TR_NOOP("New Customer"), "mnuViewNewCustomer"},
         {"LOOKUPCUST", nullptr, QT_TR_NOOP("Lookup Customer"), "mnuViewLookupCustomer"},
+        {"REPORTS", nullptr, QT_TR_NOOP("Reports"), "mnuViewReports"},
         {"LISTMGMT", nullptr, QT_TR_NOOP("List Management"), "mnuViewListMgmt"},
         {"LISTMGMT", "CATCUST", QT_TR_NOOP("Customer Categories"), "mnuViewLMCustCat"},
         {"LISTMGMT", "CATPS", QT_TR_NOOP("Products && Services"), "mnuViewLMPS"},

@@ -6,6 +6,7 @@
 #include "db/Screens.h"
 #include "forms/frmCustomer.h"
 #include "forms/frmPS.h"
+#include "reports/frmReportDef.h"
 #include "support/Station.h"
 
 #include <QFile>
@@ -59,6 +60,21 @@ struct Subscriptions {
         const bool there = !database.stored(schema::Table::Customer, first, "company").isNull();
         return there ? first : database.addCustomer({{"company", "Acme"_L1}});
     }
+};
+
+struct Reports {
+    using Form = frmReportDef;
+    static constexpr schema::Table table = schema::Table::Report;
+    static constexpr const char *recType = "_rptdef";
+    static constexpr const char *box = "txtRptTitle";
+    static constexpr const char *field = "title";
+    static constexpr const char *otherField = "notes";
+
+    static qint32 add(TempDatabase &database)
+    {
+        return database.add(u"_rptdef"_s, {{"type", "C"}, {"def", "0\n106\n\n\n\n1\n1"}});
+    }
+    static std::unique_ptr<Form> make(TempDatabase &) { return std::make_unique<Form>(); }
 };
 
 struct Users {
@@ -128,7 +144,7 @@ protected:
     Station remote{database.path()};
 };
 
-using Kinds = ::testing::Types<Customers, Subscriptions, Users>;
+using Kinds = ::testing::Types<Customers, Subscriptions, Reports, Users>;
 
 struct KindNames {
     template <class Kind>
@@ -245,6 +261,7 @@ TYPED_TEST(TwoStations, ADeadStationsMarkAsksAndAnEditEndsIt)
     this->anyway = true;
     this->edit();
     EXPECT_EQ(this->asked, "jane@REMOTE");
+    this->typeMine();
     this->apply();
     EXPECT_EQ(this->mark(), 0);
 }
@@ -277,12 +294,12 @@ TYPED_TEST(TwoStations, ADatabaseThatTakesNoMoreChangesIsToldAndTheTextsStay)
 {
     this->edit();
     this->typeMine();
-    QFile reports(gDB.ReportTable());
-    ASSERT_TRUE(reports.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    reports.close();
+    QFile templates(gDB.IssuesTemplatesTable());
+    ASSERT_TRUE(templates.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    templates.close();
     this->person.expect("open for reading only");
     this->person.expect("Unable to open: ");
-    gDB.OpenTable(gDB.ReportTable());
+    gDB.OpenTable(gDB.IssuesTemplatesTable());
     this->person.expect("Nothing was changed: this database is open for reading only");
     this->apply();
     EXPECT_TRUE(this->mineIsTyped());

@@ -32,6 +32,7 @@ constexpr Command commands[] = {
     {"mnuViewLookupCustomer", "LOOKUPCUST", None, "Lookup Customer"},
     {"mnuViewNewCustomer", "NEWCUST", Customers, "C-1"},
     {"mnuViewLookupByIssueNumber", nullptr, None, "Enter Issue ID"},
+    {"mnuViewReports", "REPORTS", None, "REPORTS"},
     {"mnuViewLMCustCat", "CATCUST", Lists, "Edit Customer Categories"},
     {"mnuViewLMPS", "CATPS", Lists, "Edit Products/Services"},
     {"mnuViewLMPSContractTypes", "CATCONT", Lists, "Edit Contract Types"},

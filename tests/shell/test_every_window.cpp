@@ -25,6 +25,10 @@
 #include "forms/frmIssueTemplate.h"
 #include "forms/frmPS.h"
 #include "forms/frmSelectIssueTemplate.h"
+#include "reports/frmReportDef.h"
+#include "reports/frmReportList.h"
+#include "reports/frmRptDisplayColumns.h"
+#include "reports/frmRptFilterColumns.h"
 #include "search/frmCustomerList.h"
 #include "search/frmLookupCustomer.h"
 #include "shell/frmLogin.h"
@@ -147,6 +151,15 @@ TEST_F(MainWindow, EveryWindowCanBeReadAloudAndHasKeysOfOneMeaning)
              form->Init(-1, true);
              return form;
          }},
+        {"frmReportDef",
+         [] {
+             auto form = std::make_unique<frmReportDef>();
+             form->Init(-1, true);
+             return form;
+         }},
+        {"frmReportList", plain<frmReportList>()},
+        {"frmRptDisplayColumns", plain<frmRptDisplayColumns>()},
+        {"frmRptFilterColumns", plain<frmRptFilterColumns>()},
         {"frmUser",
          [] {
              auto form = std::make_unique<frmUser>();

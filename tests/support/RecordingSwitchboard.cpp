@@ -31,6 +31,26 @@ void RecordingSwitchboard::ShowIssue(qint32 rowid, qint32 custid, bool bEdit, qi
                        .arg(templateId));
 }
 
+void RecordingSwitchboard::ShowReport(qint32 rowid)
+{
+    m_calls.append(QStringLiteral("ShowReport %1").arg(rowid));
+}
+
+void RecordingSwitchboard::ShowProductReport()
+{
+    m_calls.append(QStringLiteral("ShowProductReport"));
+}
+
+void RecordingSwitchboard::ShowReportDef(qint32 rowid, const QString &type)
+{
+    m_calls.append(QStringLiteral("ShowReportDef %1 %2").arg(rowid).arg(type));
+}
+
+void RecordingSwitchboard::NotifyReportList(qint32 rowid)
+{
+    m_calls.append(QStringLiteral("NotifyReportList %1").arg(rowid));
+}
+
 bool RecordingSwitchboard::GetIssueTemplateID(qint32 &id)
 {
     m_calls.append(QStringLiteral("GetIssueTemplateID"));

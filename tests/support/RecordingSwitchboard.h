@@ -44,6 +44,10 @@ public:
     void ShowCustomer(qint32 rowid, bool bEdit) override;
     void ShowPS(qint32 rowid, qint32 custid, bool bEdit) override;
     void ShowIssue(qint32 rowid, qint32 custid, bool bEdit, qint32 templateId) override;
+    void ShowReport(qint32 rowid) override;
+    void ShowProductReport() override;
+    void ShowReportDef(qint32 rowid, const QString &type) override;
+    void NotifyReportList(qint32 rowid) override;
     bool GetIssueTemplateID(qint32 &id) override;
     void NotifyCustomer(qint32 custid, int what, qint32 id) override;
     void LookupCustomer() override;

@@ -26,6 +26,8 @@ enum Topic {
     IssueTemplates = 1335,
     Customizations = 1350,
     EmailOptions = 1360,
+    ReportList = 1390,
+    ReportDefinition = 1400,
     Printing = 1600,
     Keyboard = 1610
 };

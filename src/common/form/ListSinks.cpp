@@ -4,6 +4,7 @@
 #include "common/ui/ListView.h"
 
 #include <QComboBox>
+#include <QListWidget>
 
 namespace
 {
@@ -77,4 +78,26 @@ void ListViewSink::beginLoad()
 void ListViewSink::endLoad()
 {
     m_list->endLoad();
+}
+
+void ListBoxSink::clear()
+{
+    m_list->clear();
+}
+
+void ListBoxSink::addItem(const QString &text, qint32 id)
+{
+    lbAddItem(m_list, text, id);
+}
+
+qint32 ListBoxSink::currentId() const
+{
+    return lbItemID(m_list, m_list->currentRow());
+}
+
+void ListBoxSink::selectId(qint32 id)
+{
+    const int row = lbGetPosForID(m_list, id);
+    if (row >= 0)
+        m_list->setCurrentRow(row);
 }

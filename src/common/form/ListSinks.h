@@ -5,6 +5,7 @@
 
 class ListView;
 class QComboBox;
+class QListWidget;
 
 // Items carry their id. Filling never selects by itself; only selectId does.
 class ComboSink : public ListSink
@@ -36,4 +37,17 @@ public:
 
 private:
     ListView *m_list;
+};
+
+class ListBoxSink : public ListSink
+{
+public:
+    explicit ListBoxSink(QListWidget *list) : m_list(list) {}
+    void clear() override;
+    void addItem(const QString &text, qint32 id) override;
+    qint32 currentId() const override;
+    void selectId(qint32 id) override;
+
+private:
+    QListWidget *m_list;
 };

@@ -11,6 +11,10 @@ public:
     void ShowCustomer(qint32, bool) override {}
     void ShowPS(qint32, qint32, bool) override {}
     void ShowIssue(qint32, qint32, bool, qint32) override {}
+    void ShowReport(qint32) override {}
+    void ShowProductReport() override {}
+    void ShowReportDef(qint32, const QString &) override {}
+    void NotifyReportList(qint32) override {}
     bool GetIssueTemplateID(qint32 &) override { return false; }
     void NotifyCustomer(qint32, int, qint32) override {}
     void LookupCustomer() override {}

@@ -18,6 +18,14 @@ public:
     virtual void ShowPS(qint32 rowid, qint32 custid, bool bEdit) = 0;
     // A customer's issue; -1 begins a new one, from that template when its number is above 0.
     virtual void ShowIssue(qint32 rowid, qint32 custid, bool bEdit, qint32 templateId) = 0;
+    // The result of a saved report; raises its window when it is open.
+    virtual void ShowReport(qint32 rowid) = 0;
+    // Asks for criteria, then lists the products and services that customers hold.
+    virtual void ShowProductReport() = 0;
+    // A report's definition; -1 begins a new one, on that type: "C" customers, "I" issues.
+    virtual void ShowReportDef(qint32 rowid, const QString &type) = 0;
+    // A report was saved or deleted: an open list of reports is read anew.
+    virtual void NotifyReportList(qint32 rowid) = 0;
     // Lets a person choose the template of a new issue, -1 for none; false when it was cancelled.
     virtual bool GetIssueTemplateID(qint32 &id) = 0;
     // Kind 1 issues, 2 product/services: an open customer window reloads that list.

@@ -1,0 +1,54 @@
+// The step of the tour that makes a report.
+#include "reports/frmReportDef.h"
+#include "reports/frmReportList.h"
+#include "shell/TourHands.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+
+namespace
+{
+
+const QString title = QStringLiteral("Customers in Oregon");
+
+} // namespace
+
+void Tour::makeReport()
+{
+    press(QStringLiteral("REPORTS"));
+    auto *list = newestForm<frmReportList>();
+    shoot(QStringLiteral("reports"));
+    control<QAction>(list, "cmdNewCustomerRpt")->trigger();
+    auto *form = newestForm<frmReportDef>();
+    hands::typeInto(control<QLineEdit>(form, "txtRptTitle"), title);
+    m_visitor->expect(QStringLiteral("frmRptDisplayColumns"), [this](QWidget *dialog) {
+        auto *columns = control<QListWidget>(dialog, "lstRptCols");
+        for (const char *name : {"City", "Company", "Last Name", "Default Email"})
+            for (QListWidgetItem *item : columns->findItems(QLatin1String(name), Qt::MatchExactly))
+                item->setSelected(true);
+        shoot(QStringLiteral("report-columns"));
+        hands::pressOk(dialog);
+    });
+    control<QPushButton>(form, "cmdDisplayCols")->click();
+    m_visitor->expect(QStringLiteral("frmRptFilterColumns"), [this](QWidget *dialog) {
+        control<QComboBox>(dialog, "cboCols")->setCurrentText(QStringLiteral("State"));
+        control<QComboBox>(dialog, "cboValues")->setCurrentText(QStringLiteral("Oregon"));
+        shoot(QStringLiteral("report-criterion"));
+        hands::pressOk(dialog);
+    });
+    control<QPushButton>(form, "cmdAddFilter")->click();
+    m_visitor->check();
+    control<QListWidget>(form, "lstColumns")->setCurrentRow(2); // the city
+    for (int rows = 0; rows < 2; ++rows)
+        control<QPushButton>(form, "cmdDispColUp")->click();
+    shoot(QStringLiteral("report-definition"));
+    control<QPushButton>(form, "OKButton")->click();
+    need(secondStation({QStringLiteral("report"), m_folder, title})
+             .contains(QLatin1String("Merriweather")),
+         QStringLiteral("the report does not find the customer"));
+    shoot(QStringLiteral("reports-with-new-one"));
+    list->close();
+}
