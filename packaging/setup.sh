@@ -7,6 +7,7 @@ norvane_test_packages+=(desktop-file-utils appstream man-db bsdextrautils lintia
 norvane_lint_packages=(clang-format clang-tidy)
 norvane_fuzz_packages=(clang "libclang-rt-dev|libclang-rt-14-dev") # libFuzzer is in the second
 norvane_long_packages=("${norvane_fuzz_packages[@]}" strace)
+norvane_windows_packages=("g++-mingw-w64-x86-64-posix|g++-mingw-w64-x86-64")
 norvane_reader_packages=(libdbd-xbase-perl gdal-bin) # programs that are not ours and read tables
 
 package_installed() {

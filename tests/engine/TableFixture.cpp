@@ -5,10 +5,10 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <random>
 
 using namespace norvane::engine;
 
@@ -17,8 +17,12 @@ namespace enginetest
 
 TempFolder::TempFolder()
 {
-    std::string pattern = (std::filesystem::temp_directory_path() / "norvane-XXXXXX").string();
-    m_path = mkdtemp(pattern.data());
+    std::random_device random;
+    std::filesystem::path path;
+    do
+        path = std::filesystem::temp_directory_path() / ("norvane-" + std::to_string(random()));
+    while (!std::filesystem::create_directory(path));
+    m_path = path.string();
 }
 
 TempFolder::~TempFolder()
