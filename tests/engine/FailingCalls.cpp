@@ -27,9 +27,10 @@ bool strikes()
 }
 
 // True, with errno set, when the call is to fail.
-bool fails(bool needsRoom)
+bool fails(bool needsRoom, bool isFolder = false)
 {
-    if (current.number == 0 || (current.room && !needsRoom) || !strikes())
+    if (current.number == 0 || (current.room && !needsRoom) || (current.folder && !isFolder) ||
+        !strikes())
         return false;
     errno = current.number;
     return true;
@@ -37,7 +38,7 @@ bool fails(bool needsRoom)
 
 std::size_t taken(std::size_t count)
 {
-    return current.number == 0 && count > 1 && strikes() ? count / 2 : count;
+    return current.number == 0 && !current.folder && count > 1 && strikes() ? count / 2 : count;
 }
 
 } // namespace
@@ -78,6 +79,12 @@ int __real_fdatasync(int file);
 int __wrap_fdatasync(int file)
 {
     return fails(true) ? -1 : __real_fdatasync(file);
+}
+
+int __real_fsync(int folder);
+int __wrap_fsync(int folder)
+{
+    return fails(true, true) ? -1 : __real_fsync(folder);
 }
 
 int __real_ftruncate(int file, off_t size);

@@ -10,6 +10,7 @@ struct Fault {
     int number = 0;    // errno; 0: only half of what was asked is read or written
     bool room = false; // only calls that may need room on the disk
     bool forEver = false;
+    bool folder = false; // only the sync of a folder
 };
 
 // The n-th call from now on that the fault can befall fails, and when `forEver` all later ones.

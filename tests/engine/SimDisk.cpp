@@ -80,7 +80,45 @@ std::vector<Byte> cut(const Medium &medium, std::uint32_t mode, std::mt19937 &ra
     return bytes;
 }
 
+using Names = std::map<std::string, std::uint64_t>;
+
+void perform(const Change &change, Names &names)
+{
+    const auto drop = [&] {
+        const auto found = names.find(change.path);
+        if (found != names.end() && found->second == change.file)
+            names.erase(found);
+    };
+    if (change.kind == Change::Kind::Make) {
+        names[change.path] = change.file;
+    } else if (change.kind == Change::Kind::Remove) {
+        drop();
+    } else {
+        names[change.to] = change.file;
+        drop();
+    }
+}
+
+// What happened to names stops somewhere, or any of it is lost.
+void cut(const std::vector<Change> &unsynced, std::uint32_t mode, std::mt19937 &random,
+         Names &names)
+{
+    const std::size_t stop = mode == 0   ? 0
+                             : mode == 1 ? random() % (unsynced.size() + 1)
+                                         : unsynced.size();
+    for (std::size_t i = 0; i < stop; ++i) {
+        if (mode != 3 || random() % 2 == 0)
+            perform(unsynced[i], names);
+    }
+}
+
 } // namespace
+
+std::uint64_t SimDisk::newFile()
+{
+    static std::uint64_t last = 0;
+    return ++last;
+}
 
 std::size_t SimDisk::locksHeld() const
 {
@@ -103,7 +141,7 @@ std::unique_ptr<SimDisk> SimDisk::copy() const
     auto other = std::make_unique<SimDisk>();
     other->boot = boot;
     for (const auto &[path, content] : files)
-        other->files[path] = std::make_shared<Content>(Content{content->bytes, {}});
+        other->files[path] = std::make_shared<Content>(Content{content->bytes, {}, content->file});
     return other;
 }
 
@@ -111,35 +149,40 @@ std::unique_ptr<SimDisk> SimDisk::afterPowerCut(const SimDisk &base,
                                                 const std::vector<Change> &changes,
                                                 std::size_t count, std::uint32_t seed)
 {
-    std::map<std::string, Medium> media;
-    for (const auto &[path, content] : base.files)
-        media[path].safe = content->bytes;
+    std::map<std::uint64_t, Medium> media;
+    Names names;
+    std::vector<Change> unsyncedNames;
+    for (const auto &[path, content] : base.files) {
+        media[content->file].safe = content->bytes;
+        names[path] = content->file;
+    }
     for (std::size_t i = 0; i < count; ++i) {
         const Change &change = changes[i];
         switch (change.kind) {
         case Change::Kind::Sync:
-            sync(media[change.path]);
-            break;
-        case Change::Kind::Remove:
-            media.erase(change.path);
-            break;
-        case Change::Kind::Rename:
-            media[change.to] = std::move(media[change.path]);
-            media.erase(change.path);
+            sync(media[change.file]);
             break;
         case Change::Kind::Make:
-            media[change.path] = {};
+        case Change::Kind::Remove:
+        case Change::Kind::Rename:
+            unsyncedNames.push_back(change);
+            break;
+        case Change::Kind::SyncFolder:
+            for (const Change &name : unsyncedNames)
+                perform(name, names);
+            unsyncedNames.clear();
             break;
         default:
-            media[change.path].unsynced.push_back(change);
+            media[change.file].unsynced.push_back(change);
         }
     }
     std::mt19937 random(seed);
     auto disk = std::make_unique<SimDisk>();
     disk->boot = base.boot + 1;
-    const std::uint32_t mode = seed % 5;
-    for (const auto &[path, medium] : media)
-        disk->files[path] = std::make_shared<Content>(Content{cut(medium, mode, random), {}});
+    cut(unsyncedNames, seed / 5 % 4, random, names);
+    for (const auto &[path, file] : names)
+        disk->files[path] =
+            std::make_shared<Content>(Content{cut(media[file], seed % 5, random), {}, file});
     return disk;
 }
 
@@ -186,10 +229,9 @@ public:
             status = Error{ErrorKind::NoSpace, m_path, "the disk is full"};
         }
         change({SimDisk::Change::Kind::Write,
-                m_path,
+                m_content->file,
                 offset,
-                {bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(length)},
-                {}});
+                {bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(length)}});
         return status;
     }
 
@@ -215,7 +257,7 @@ public:
             return status;
         if (size > sizeNow() && size > largestSize())
             return Error{ErrorKind::NoSpace, m_path, "the disk is full"};
-        change({SimDisk::Change::Kind::Resize, m_path, size, {}, {}});
+        change({SimDisk::Change::Kind::Resize, m_content->file, size});
         return {};
     }
 
@@ -223,8 +265,7 @@ public:
     {
         if (Status status = called(true); !status.ok())
             return status;
-        if (m_station.m_disk.recording)
-            m_station.m_disk.changes.push_back({SimDisk::Change::Kind::Sync, m_path, 0, {}, {}});
+        m_station.record({SimDisk::Change::Kind::Sync, m_content->file});
         return {};
     }
 
@@ -276,8 +317,7 @@ private:
         if (m_station.remote)
             perform(change, m_seen);
         m_station.m_disk.most = std::max(m_station.m_disk.most, m_station.m_disk.used());
-        if (m_station.m_disk.recording)
-            m_station.m_disk.changes.push_back(std::move(change));
+        m_station.record(std::move(change));
     }
     void dropLocks()
     {
@@ -347,9 +387,8 @@ Result<std::unique_ptr<File>> SimStation::open(const std::string &path, OpenMode
     if (mode == OpenMode::CreateNew) {
         if (found != m_disk.files.end())
             return Error{ErrorKind::Io, path, "the file exists"};
-        m_disk.files[path] = std::make_shared<SimDisk::Content>();
-        if (m_disk.recording)
-            m_disk.changes.push_back({SimDisk::Change::Kind::Make, path, 0, {}, {}});
+        const auto made = m_disk.files[path] = std::make_shared<SimDisk::Content>();
+        record({SimDisk::Change::Kind::Make, made->file, 0, {}, path});
     } else if (found == m_disk.files.end()) {
         return Error{ErrorKind::NotFound, path, "no such file"};
     }
@@ -370,10 +409,9 @@ Status SimStation::rename(const std::string &from, const std::string &to)
         return status;
     if (!m_disk.has(from))
         return Error{ErrorKind::NotFound, from, "no such file"};
-    m_disk.files[to] = m_disk.files[from];
+    const auto moved = m_disk.files[to] = m_disk.files[from];
     m_disk.files.erase(from);
-    if (m_disk.recording)
-        m_disk.changes.push_back({SimDisk::Change::Kind::Rename, from, 0, {}, to});
+    record({SimDisk::Change::Kind::Rename, moved->file, 0, {}, from, to});
     return {};
 }
 
@@ -381,11 +419,26 @@ Status SimStation::remove(const std::string &path)
 {
     if (Status status = call(true); !status.ok())
         return status;
-    if (m_disk.files.erase(path) == 0)
+    const auto found = m_disk.files.find(path);
+    if (found == m_disk.files.end())
         return Error{ErrorKind::NotFound, path, "no such file"};
-    if (m_disk.recording)
-        m_disk.changes.push_back({SimDisk::Change::Kind::Remove, path, 0, {}, {}});
+    record({SimDisk::Change::Kind::Remove, found->second->file, 0, {}, path});
+    m_disk.files.erase(found);
     return {};
+}
+
+Status SimStation::syncFolderOf(const std::string &)
+{
+    Status status = call(true);
+    if (status.ok())
+        record({SimDisk::Change::Kind::SyncFolder});
+    return status;
+}
+
+void SimStation::record(SimDisk::Change change)
+{
+    if (m_disk.recording)
+        m_disk.changes.push_back(std::move(change));
 }
 
 } // namespace enginetest

@@ -29,16 +29,18 @@ public:
     struct Content {
         std::vector<Byte> bytes;
         std::vector<Lock> locks;
+        std::uint64_t file = newFile(); // the same in a copy of the disk, whatever its name
     };
     using Contents = std::map<std::string, std::shared_ptr<Content>>;
 
     // One call that changed something, for power cuts.
     struct Change {
-        enum class Kind { Write, Resize, Sync, Make, Remove, Rename } kind;
-        std::string path;
+        enum class Kind { Write, Resize, Sync, Make, Remove, Rename, SyncFolder } kind;
+        std::uint64_t file = 0;
         std::uint64_t offset = 0; // Resize: the new size
-        std::vector<Byte> bytes;
-        std::string to; // Rename
+        std::vector<Byte> bytes = {};
+        std::string path = {}; // of what happens to names
+        std::string to = {};   // Rename
     };
 
     Contents files;
@@ -57,10 +59,15 @@ public:
     // A disk of its own with the same contents and no locks.
     std::unique_ptr<SimDisk> copy() const;
     // `base` after the first `count` of `changes` and a power cut: of what was not synced each
-    // sector has any of the contents it had since. The machine has started again.
+    // sector has any of the contents it had since, and what happened to names since the folder was
+    // synced came to pass or not, each for itself and whatever the contents. The machine has
+    // started again.
     static std::unique_ptr<SimDisk> afterPowerCut(const SimDisk &base,
                                                   const std::vector<Change> &changes,
                                                   std::size_t count, std::uint32_t seed);
+
+private:
+    static std::uint64_t newFile();
 };
 
 // The files as one station sees them.
@@ -88,12 +95,14 @@ public:
     Result<std::string> findIgnoringCase(const std::string &path) override;
     Status rename(const std::string &from, const std::string &to) override;
     Status remove(const std::string &path) override;
+    Status syncFolderOf(const std::string &path) override;
     std::uint64_t bootMark() override { return m_disk.boot; }
 
 private:
     friend class SimFile;
     // Counts a call; an error when it is not to happen. `partial`: part of it happens all the same.
     Status call(bool changes, bool *partial = nullptr);
+    void record(SimDisk::Change change);
 
     SimDisk &m_disk;
     int m_calls = 0;

@@ -67,6 +67,9 @@ private:
 std::string compare(SimDisk &disk, const People &expected, const People *other = nullptr,
                     bool *found = nullptr);
 
+// Empty when it holds all of `least` and nothing but `most`.
+std::string compareBetween(SimDisk &disk, const People &least, const People &most);
+
 // The same as a session that may not write sees it, by record order, by seeks and in a walk.
 // `refused` when it is told to let somebody else open the table first.
 std::string compareReading(SimDisk &disk, const People &expected, const People *other,

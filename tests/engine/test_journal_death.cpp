@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <tuple>
 
 using namespace norvane::engine;
 using namespace enginetest;
@@ -100,11 +101,11 @@ struct Prepared {
     std::vector<People> states; // before, and after each of the saves
 };
 
-Prepared prepare(const Case &one)
+Prepared prepare(const Case &one, const char *durability = "full")
 {
     Prepared ready{diskWithPeople(), one.saves, {{}}};
     People &people = ready.states[0];
-    SimSession session(*ready.disk);
+    SimSession session(*ready.disk, durability);
     for (const Save &save : one.before) {
         EXPECT_TRUE(session.perform(save)) << lastError(session).detail;
         note(people, save);
@@ -132,25 +133,27 @@ struct Death {
     bool dead = false;
 };
 
-Death dieAt(const SimDisk &start, const std::vector<Save> &saves, int call)
+Death dieAt(const SimDisk &start, const std::vector<Save> &saves, int call, const char *durability)
 {
     Death death{start.copy(), 0, false};
-    SimSession session(*death.disk);
+    SimSession session(*death.disk, durability);
     session.station.dieAt(call);
     death.done = performSaves(session, kPeoplePath, saves);
     death.dead = session.station.dead();
     return death;
 }
 
-class JournalDeath : public testing::TestWithParam<Case>
+// With either setting of what a save has to survive: a killed station loses nothing of both.
+class JournalDeath : public testing::TestWithParam<std::tuple<Case, const char *>>
 {
 protected:
-    void SetUp() override { m_ready = prepare(GetParam()); }
+    void SetUp() override { m_ready = prepare(std::get<0>(GetParam()), m_durability); }
     const People &next(std::size_t done) const
     {
         return m_ready.states[std::min(done + 1, m_ready.states.size() - 1)];
     }
 
+    const char *m_durability = std::get<1>(GetParam());
     Prepared m_ready;
 };
 
@@ -164,7 +167,7 @@ TEST_P(JournalDeath, AtEachCallTheSaveIsWholeOrAbsent)
     for (int call = 1;; call += step) {
         ASSERT_LT(call, 9000);
         countPoint("deaths in a save");
-        const Death death = dieAt(*m_ready.disk, m_ready.saves, call);
+        const Death death = dieAt(*m_ready.disk, m_ready.saves, call, m_durability);
         SimDisk &disk = *death.disk;
         EXPECT_EQ(disk.locksHeld(), 0U) << "call " << call;
         const People &before = m_ready.states[death.done];
@@ -188,25 +191,36 @@ TEST_P(JournalDeath, AtEachCallTheSaveIsWholeOrAbsent)
     EXPECT_GT(absent, 0);
 }
 
-// Calls of the recovery for a death at each call of the save.
+int callsToRecover(const SimDisk &left)
+{
+    const std::unique_ptr<SimDisk> disk = left.copy();
+    SimSession session(*disk);
+    session.look();
+    return session.station.calls();
+}
+
+// At each call of the recovery from a death at each call of the save, or at some of both.
 TEST_P(JournalDeath, DyingAgainInTheRecoveryChangesNothing)
 {
     std::mt19937 random(1);
-    const int step = m_ready.saves.size() == 1 ? 1 : matrixLength(13, 1, 1);
+    const int step = m_ready.saves.size() == 1 ? 1 : matrixLength(13, 61, 1);
     for (int call = 1;; call += step) {
-        const Death first = dieAt(*m_ready.disk, m_ready.saves, call);
+        const Death first = dieAt(*m_ready.disk, m_ready.saves, call, m_durability);
         if (!first.dead)
             break;
         first.disk->boot += random() % 2; // the machine too
-        const int most = matrixLength(3, 20, 60);
-        for (int sample = 0; sample < most; ++sample) {
+        const int calls = callsToRecover(*first.disk);
+        const int most = std::min(calls, matrixLength(3, 20, calls));
+        for (int sample = 1; sample <= most; ++sample) {
             countPoint("deaths in a recovery");
             const std::unique_ptr<SimDisk> disk = first.disk->copy();
             {
                 SimSession session(*disk);
-                session.station.dieAt(most == 60 ? sample + 1
-                                                 : static_cast<int>(random() % 60) + 1);
+                session.station.dieAt(
+                    most == calls ? sample
+                                  : static_cast<int>(random() % static_cast<unsigned>(calls)) + 1);
                 session.look();
+                ASSERT_TRUE(session.station.dead());
             }
             ASSERT_EQ(compare(*disk, m_ready.states[first.done], &next(first.done)), "")
                 << "died at call " << call;
@@ -215,13 +229,14 @@ TEST_P(JournalDeath, DyingAgainInTheRecoveryChangesNothing)
 }
 
 // The index file built anew, with the station dying, or its disk filling up, at any call.
-class RebuildDeath : public testing::TestWithParam<bool>
+class RebuildDeath : public testing::TestWithParam<std::tuple<bool, const char *>>
 {
 };
 
 TEST_P(RebuildDeath, NeverAnEmptyOrHalfIndexIsTaken)
 {
-    const Prepared ready = prepare({"", inserts(1, 60, "a text"), {}});
+    const auto [dies, durability] = GetParam();
+    const Prepared ready = prepare({"", inserts(1, 60, "a text"), {}}, durability);
     for (int call = 1;; ++call) {
         ASSERT_LT(call, 3000);
         countPoint("deaths and full disks in a rebuild");
@@ -229,8 +244,8 @@ TEST_P(RebuildDeath, NeverAnEmptyOrHalfIndexIsTaken)
         Code code = r4failure;
         bool hit = false;
         {
-            SimSession session(*disk);
-            if (GetParam())
+            SimSession session(*disk, durability);
+            if (dies)
                 session.station.dieAt(call);
             else
                 session.station.failAt(call, ErrorKind::NoSpace, true);
@@ -267,17 +282,20 @@ TEST(CounterDeath, ANumberTakenIsNotGivenOutAgain)
         f4assignLong(d4field(table, "lastid"), 1000);
         ASSERT_EQ(d4append(table), r4success);
     }
-    for (int call = 1;; ++call) {
-        const std::unique_ptr<SimDisk> disk = start.copy();
-        SimSession session(*disk);
-        session.station.dieAt(call);
-        const bool taken = takeIds(session, path, 1) == "1000 1000";
-        const SimSession next(*disk);
-        const std::string later = takeIds(next, path, 1);
-        ASSERT_TRUE(later == "1001 1001" || (!taken && later == "1000 1000")) << later << call;
-        if (!session.station.dead()) {
-            EXPECT_TRUE(taken);
-            break;
+    for (const char *durability : {"full", "process"}) {
+        for (int call = 1;; ++call) {
+            const std::unique_ptr<SimDisk> disk = start.copy();
+            SimSession session(*disk, durability);
+            session.station.dieAt(call);
+            const bool taken = takeIds(session, path, 1) == "1000 1000";
+            const SimSession next(*disk);
+            const std::string later = takeIds(next, path, 1);
+            ASSERT_TRUE(later == "1001 1001" || (!taken && later == "1000 1000"))
+                << later << ", call " << call << ", " << durability;
+            if (!session.station.dead()) {
+                EXPECT_TRUE(taken);
+                break;
+            }
         }
     }
 }
@@ -326,10 +344,18 @@ TEST(JournalDeathOfAnother, InTheMiddleOfOurSaveAThirdStationFinishesTheirs)
     EXPECT_GT(whole, 100);
 }
 
-INSTANTIATE_TEST_SUITE_P(Saves, JournalDeath, testing::ValuesIn(cases()),
-                         [](const auto &one) { return std::string(one.param.name); });
-INSTANTIATE_TEST_SUITE_P(Ends, RebuildDeath, testing::Bool(), [](const auto &one) {
-    return std::string(one.param ? "Death" : "FullDisk");
-});
+const auto kSettings = testing::Values("full", "process");
+
+INSTANTIATE_TEST_SUITE_P(Saves, JournalDeath,
+                         testing::Combine(testing::ValuesIn(cases()), kSettings),
+                         [](const auto &one) {
+                             return std::string(std::get<0>(one.param).name) + '_' +
+                                    std::get<1>(one.param);
+                         });
+INSTANTIATE_TEST_SUITE_P(Ends, RebuildDeath, testing::Combine(testing::Bool(), kSettings),
+                         [](const auto &one) {
+                             return std::string(std::get<0>(one.param) ? "Death_" : "FullDisk_") +
+                                    std::get<1>(one.param);
+                         });
 
 } // namespace

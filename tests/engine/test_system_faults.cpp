@@ -86,6 +86,38 @@ TEST_P(SystemFaults, AnIndexBuiltAnew)
     });
 }
 
+// The folder says on which medium the name of a new file is.
+using FolderSync = SavedFolder;
+
+TEST_F(FolderSync, NothingIsReportedWhoseFileMayGetLost)
+{
+    for (const int number : {EIO, ENOSPC, EINVAL}) {
+        // a file system that cannot sync folders says EINVAL, and is used all the same
+        const bool harmless = number == EINVAL;
+        for (const bool reindex : {false, true}) {
+            restore(reindex);
+            const TestSession session;
+            code4accessMode(session, reindex ? 1 : 0);
+            failing::at(1, {number, false, true, true});
+            bool done = false;
+            if (reindex) {
+                const Handle table = d4open(session, m_path);
+                done = d4reindex(table) == r4success;
+                done = d4close(table) == r4success && done;
+            } else { // the first save makes the journal
+                done = performSaves(session, m_path, {insertOf(4)}) == 1;
+            }
+            EXPECT_TRUE(failing::stop());
+            EXPECT_EQ(done, harmless) << number << (reindex ? ", an index" : ", a journal");
+            code4accessMode(session, 0);
+            People after = m_people;
+            if (!reindex && done)
+                note(after, insertOf(4));
+            saveMore(session, after);
+        }
+    }
+}
+
 std::vector<Named> faults()
 {
     return {{"Short", {0, false, false}, true},

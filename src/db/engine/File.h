@@ -56,9 +56,10 @@ public:
     virtual Result<std::unique_ptr<File>> open(const std::string &path, OpenMode mode) = 0;
     // The file's path as it stands in its folder when only letter case differs; NotFound otherwise.
     virtual Result<std::string> findIgnoringCase(const std::string &path) = 0;
+    // Over a file that is there. What becomes of names may get lost until the folder is synced.
     virtual Status rename(const std::string &from, const std::string &to) = 0;
     virtual Status remove(const std::string &path) = 0;
-    // Puts the name of a file just made on the medium.
+    // Puts the names in this file's folder on the medium, where the system knows such a thing.
     virtual Status syncFolderOf(const std::string & /*path*/) { return {}; }
     // A number that changes whenever this machine starts; 0 when there is none to be had.
     virtual std::uint64_t bootMark() { return 0; }

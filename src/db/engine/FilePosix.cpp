@@ -263,15 +263,19 @@ bool sameButForCase(std::string_view a, std::string_view b)
                       [](char x, char y) { return lower(x) == lower(y); });
 }
 
-void syncFolder(const std::string &path)
+Status syncFolder(const std::string &path)
 {
     const std::filesystem::path parent = std::filesystem::path(path).parent_path();
     const std::filesystem::path folder = parent.empty() ? std::filesystem::path(".") : parent;
-    const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    constexpr int how = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
+    const int descriptor = insistOn([&] { return ::open(folder.c_str(), how); });
     if (descriptor < 0)
-        return;
-    ::fsync(descriptor); // not every file system can; the rename itself has happened
+        return systemError(errno, folder.string(), "open folder");
+    // EINVAL: this file system cannot sync a folder; it sees to its names in its own way
+    const bool synced = insistOn([&] { return ::fsync(descriptor); }) == 0 || errno == EINVAL;
+    const int number = errno;
     ::close(descriptor);
+    return synced ? Status() : systemError(number, folder.string(), "sync folder");
 }
 
 // A digest of the identifier that the kernel draws at each start.
@@ -335,7 +339,6 @@ public:
     {
         if (insistOn([&] { return ::rename(from.c_str(), to.c_str()); }) != 0)
             return systemError(errno, from, "rename");
-        syncFolder(to);
         return {};
     }
 
@@ -346,11 +349,7 @@ public:
         return {};
     }
 
-    Status syncFolderOf(const std::string &path) override
-    {
-        syncFolder(path);
-        return {};
-    }
+    Status syncFolderOf(const std::string &path) override { return syncFolder(path); }
 
     std::uint64_t bootMark() override
     {

@@ -1,6 +1,7 @@
 #include "db/engine/Journal.h"
 
 #include "db/engine/Crc32c.h"
+#include "db/engine/KeepAside.h"
 #include "db/engine/LockPlaces.h"
 
 #include <algorithm>
@@ -152,9 +153,10 @@ Status Journal::create(const JournalHeader &header, bool fullLength, const std::
             return file.error();
         m_file->takeRightsOf(table);
     }
+    // Its name first: a header that stands here is that of a file which cannot get lost.
+    Status status = m_system.syncFolderOf(m_path);
     // Room for the records is taken now: a sync that need not lengthen the file is much quicker.
-    Status status;
-    if (fullLength) {
+    if (status.ok() && fullLength) {
         const std::vector<Byte> zeros(kJournalSize - kJournalStart);
         status = m_file->write(kJournalStart, zeros);
     }
@@ -162,8 +164,6 @@ Status Journal::create(const JournalHeader &header, bool fullLength, const std::
         status = write(header);
     if (status.ok())
         status = sync();
-    if (status.ok())
-        status = m_system.syncFolderOf(m_path);
     if (!status.ok())
         (void)remove();
     return status;
@@ -192,11 +192,10 @@ Status Journal::remove()
     return m_system.remove(m_path);
 }
 
-Status Journal::setAside()
+Status Journal::keepCopy()
 {
-    close();
-    (void)m_system.remove(m_path + ".bad");
-    return m_system.rename(m_path, m_path + ".bad");
+    Status status = reopen();
+    return status.ok() ? keepAside(m_system, *m_file, true) : status;
 }
 
 std::vector<Byte> Journal::encode(std::uint64_t number, std::uint64_t salt, const Pieces &pieces)

@@ -68,8 +68,8 @@ public:
     void close() { m_file.reset(); }
     // Closes and removes the file.
     Status remove();
-    // Renames the file to NAME.bad, so that it can be looked at.
-    Status setAside();
+    // Copies the file to NAME.bad, so that it can be looked at (KeepAside.h).
+    Status keepCopy();
 
     static std::vector<Byte> encode(std::uint64_t number, std::uint64_t salt, const Pieces &pieces);
     Status writeRecord(std::uint64_t offset, ByteView record);

@@ -62,6 +62,8 @@ Status copyTo(FileSystem &files, File &from, const std::string &path, bool withS
     });
     if (status.ok() && withSync)
         status = (*copy)->sync();
+    if (status.ok() && withSync)
+        status = files.syncFolderOf(path);
     copy->reset();
     if (!status.ok())
         (void)files.remove(path);

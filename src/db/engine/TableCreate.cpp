@@ -19,6 +19,8 @@ Status makeFile(FileSystem &files, const std::string &path,
     if (!file.ok())
         return file.error();
     Status status = fill(**file);
+    if (status.ok())
+        status = (*file)->sync();
     file->reset();
     if (!status.ok())
         (void)files.remove(path);
@@ -59,6 +61,8 @@ Status createTable(FileSystem &files, const TableDef &table, const TablePaths &p
         bytes.push_back(kEndOfFile);
         return file.write(0, bytes);
     });
+    if (status.ok())
+        status = files.syncFolderOf(paths.table);
     if (!status.ok()) {
         for (const std::string &path : made)
             (void)files.remove(path);

@@ -79,19 +79,19 @@ Status TableJournal::ensureJournal()
 }
 
 // Sessions that found no journal look for one again when the index's change counter has moved.
-// Synced, since the records are compared with what is on the medium.
+// Synced with all that may just have been copied here, since the records build on it.
 Status TableJournal::announce()
 {
     File *index = m_files.at(Target::Index);
     if (!index)
-        return {};
+        return syncAll();
     const Result<std::uint32_t> counter = counterInIndex();
     if (!counter.ok())
         return counter.error();
     std::array<Byte, 4> bytes{};
     putBe32(bytes.data(), *counter + 1);
     Status status = index->write(kIndexCounter, bytes);
-    return status.ok() ? index->sync() : status;
+    return status.ok() ? syncAll() : status;
 }
 
 Status TableJournal::measure(std::array<std::uint64_t, kTargets> &sizes) const

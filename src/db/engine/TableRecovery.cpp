@@ -286,8 +286,11 @@ Status TableJournal::tidyEnds(bool afterLoad)
     if (block == 0 || *got < head.size() || *size >= kLockByte)
         return {};
     const std::uint64_t end = (*size + block - 1) / block;
-    if (getBe32(head.data()) >= end) // further when the file was cut: see MemoFile::place
-        return {};
+    const std::uint64_t next = getBe32(head.data());
+    if (next >= end) { // further when the file was cut: see MemoFile::place
+        const bool lostInLoad = afterLoad && next > end && next * block < kLockByte;
+        return lostInLoad ? memo->resize(next * block) : Status();
+    }
     putBe32(head.data(), static_cast<std::uint32_t>(end));
     return memo->write(0, ByteView(head).first(4));
 }
@@ -315,22 +318,25 @@ Status TableJournal::recountRows(bool restart)
     return table.write(kCountPlace, bytes);
 }
 
-// It may have held an unfinished save, so what can be worked out from the rows is.
+// It may have held an unfinished save, so what can be worked out from the rows is. The new header
+// is laid over the old one: at no moment there is a table without a mark.
 Result<bool> TableJournal::adoptDamaged()
 {
-    if (Status status = m_journal.setAside(); !status.ok())
-        return status.error();
+    const Status kept = m_journal.keepCopy();
+    if (!kept.ok() && kept.error().kind != ErrorKind::NoSpace) // no table is lost for want of it
+        return kept.error();
     m_head = freshHeader();
     if (Status status = noteState(); !status.ok())
         return status.error();
     m_head.flags = JournalHeader::kRebuild;
-    if (Status status = m_journal.create(m_head, true, m_files.at(Target::Table)->path());
-        !status.ok())
+    Status status = m_journal.write(m_head);
+    if (status.ok())
+        status = m_journal.sync();
+    if (!status.ok())
         return status.error();
     m_state = Journal::State::Sound;
-    if (Status status = tidyEnds(false); !status.ok())
-        return status.error();
-    return true;
+    status = tidyEnds(false);
+    return status.ok() ? Result<bool>(true) : status.error();
 }
 
 Status TableJournal::beginRebuild()

@@ -134,13 +134,18 @@ Status TableFiles::takeNewIndex(const std::string &beside)
     const std::string live = indexPath();
     m_index.reset(); // an open file cannot be replaced everywhere
     m_indexFile.reset();
-    m_indexGone = true;
     nameTargets();
-    const Status renamed = m_system.rename(beside, live);
-    if (!renamed.ok())
+    Status renamed = m_system.rename(beside, live);
+    if (renamed.ok()) {
+        renamed = m_system.syncFolderOf(live);
+        if (!renamed.ok() && exclusive())
+            m_indexLost = true; // the old one may come back
+    } else {
         (void)m_system.remove(beside);
+    }
     ++m_stamp;
-    Status opened = reopenIndex();
+    Status opened = openIndex(live, readOnly());
+    m_indexGone = !opened.ok();
     if (opened.ok())
         opened = m_index->refresh();
     return renamed.ok() ? opened : renamed;
