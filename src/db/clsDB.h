@@ -77,6 +77,11 @@ public:
     QString MailMergeTable() const;     // in the program's folder
     static QString MakePath(const QString &dir, const QString &file);
     QString DBMSFiles() const;
+    // A new file from a template: writable, whole on the medium, with the rights of the folder's
+    // other tables.
+    static bool copyTemplate(const QString &templateName, const QString &dir, const QString &name);
+    // Puts the names of new files there on the medium too.
+    static bool keepNames(const QString &dir);
     struct FileTriple {
         QString table, index, indexSource;
     };
@@ -280,7 +285,6 @@ private:
     QString openingHelp() const;
     bool restoreTable(const QString &dir, const schema::TableInfo &table) const;
     bool buildMissingIndex(const QString &dir, const schema::TableInfo &table) const;
-    bool copyTemplate(const QString &templateName, const QString &dir, const QString &name) const;
 
     bool updateRow(const RecColl &record, Handle table, bool NoMsg);
     bool addRow(RecColl &record, Handle table);

@@ -6,7 +6,7 @@
 #include "common/base/Failure.h"
 #include "common/base/Preferences.h"
 #include "common/base/Prompts.h"
-#include "db/maintenance/IndexRepair.h"
+#include "db/engine/File.h"
 #include "db/TableUse.h"
 
 #include <QDir>
@@ -39,6 +39,24 @@ QString existingFile(const QString &dir, const QString &name)
 bool fileMissing(const QString &dir, const QString &name)
 {
     return existingFile(dir, name).isEmpty();
+}
+
+Failure notCreated(const QString &path)
+{
+    return {PathAccess, app::title(),
+            QStringLiteral("The file '%1' could not be created. The folder may be read-only or the "
+                           "disk full.")
+                .arg(path)};
+}
+
+// Any table of a database that lies in the folder; empty when there is none.
+QString anyTable(const QString &dir)
+{
+    for (const schema::TableInfo &table : schema::tables()) {
+        if (QString path = existingFile(dir, table.dataFile()); !path.isEmpty())
+            return path;
+    }
+    return {};
 }
 
 } // namespace
@@ -101,16 +119,33 @@ QString clsDB::openingHelp() const
         .arg(app::title());
 }
 
-bool clsDB::copyTemplate(const QString &templateName, const QString &dir, const QString &name) const
+bool clsDB::copyTemplate(const QString &templateName, const QString &dir, const QString &name)
 {
-    const QString target = MakePath(clsSystem::LocalPath(dir), name);
+    using namespace norvane::engine;
+    const QString folder = clsSystem::LocalPath(dir);
+    const QString target = MakePath(folder, name);
+    const QString neighbour = anyTable(dir);
     if (!clsSystem::FileCopyFn(MakePath(app::programFolder(), templateName), target))
         return false;
     // Templates may be installed read-only; the database is not.
     // A file system without such permissions is not asked to change them.
     QFile file(target);
-    return (file.permissions() & QFile::WriteOwner) != 0 ||
-           file.setPermissions(file.permissions() | QFile::WriteOwner);
+    if ((file.permissions() & QFile::WriteOwner) == 0 &&
+        !file.setPermissions(file.permissions() | QFile::WriteOwner))
+        return false;
+    const auto made = systemFiles().open(target.toStdString(), OpenMode::ReadWrite);
+    if (!made.ok())
+        return false;
+    // Whoever may write the others must be able to write this one.
+    if (!neighbour.isEmpty())
+        (*made)->takeRightsOf(neighbour.toStdString());
+    return true;
+}
+
+bool clsDB::keepNames(const QString &dir)
+{
+    const QString path = MakePath(clsSystem::LocalPath(dir), schema::tables().front().dataFile());
+    return norvane::engine::systemFiles().syncFolderOf(path.toStdString()).ok();
 }
 
 // The index that a table lacks comes from its rows: an empty one would hide them.
@@ -121,11 +156,7 @@ bool clsDB::buildMissingIndex(const QString &dir, const schema::TableInfo &table
     code4lockAttempts(session, 10);
     expectOurTags(session);
     std::vector<RepairLine> report;
-    maintenance::repairWithIndex(session,
-                                 {existingFile(dir, table.dataFile()),
-                                  MakePath(clsSystem::LocalPath(dir), table.indexFile()),
-                                  MakePath(app::programFolder(), table.templateFiles().at(1))},
-                                 report);
+    d4repair(session, existingFile(dir, table.dataFile()).toStdString(), report);
     d4initUndo(session);
     return !fileMissing(dir, table.indexFile());
 }
@@ -138,11 +169,15 @@ bool clsDB::restoreTable(const QString &dir, const schema::TableInfo &table) con
     const QStringList templates = table.templateFiles();
     const bool hasRows = !fileMissing(dir, table.dataFile());
     bool there = true;
+    bool copied = false;
     for (qsizetype i = 0; i < names.size(); ++i) {
         const bool fromRows = hasRows && names.at(i) == table.indexFile();
-        if (!fromRows && fileMissing(dir, names.at(i)))
-            there = copyTemplate(templates.at(i), dir, names.at(i)) && there;
+        if (fromRows || !fileMissing(dir, names.at(i)))
+            continue;
+        there = copyTemplate(templates.at(i), dir, names.at(i)) && there;
+        copied = true;
     }
+    there = there && (!copied || keepNames(dir));
     return there && (!fileMissing(dir, table.indexFile()) || buildMissingIndex(dir, table));
 }
 
@@ -224,14 +259,12 @@ bool clsDB::NewDB(const QString &dir)
             const QStringList names = table.files();
             for (qsizetype i = 0; i < names.size(); ++i) {
                 made.append(MakePath(dir, names.at(i)));
-                if (!copyTemplate(table.templateFiles().at(i), dir, names.at(i))) {
-                    throw Failure(PathAccess, app::title(),
-                                  QStringLiteral("The file '%1' could not be created. The folder "
-                                                 "may be read-only or the disk full.")
-                                      .arg(MakePath(dir, names.at(i))));
-                }
+                if (!copyTemplate(table.templateFiles().at(i), dir, names.at(i)))
+                    throw notCreated(MakePath(dir, names.at(i)));
             }
         }
+        if (!keepNames(dir))
+            throw notCreated(dir);
         return true;
     });
     if (!created) {

@@ -7,7 +7,6 @@
 #include "common/base/Preferences.h"
 #include "common/base/Prompts.h"
 #include "db/FieldText.h"
-#include "db/maintenance/IndexRepair.h"
 #include "db/Screens.h"
 #include "db/TableUse.h"
 
@@ -183,8 +182,7 @@ bool clsDB::UsersReadable()
     Handle users = d4open(m_hSession, path);
     if (users < 1) { // an index must not keep out those who can build it anew
         std::vector<RepairLine> report;
-        maintenance::repairWithIndex(
-            m_hSession, DataFilePaths().at(static_cast<int>(schema::Table::User)), report);
+        d4repair(m_hSession, path, report);
         users = d4open(m_hSession, path);
     }
     code4errorCode(m_hSession, 0);

@@ -77,11 +77,18 @@ TEST_F(Lifecycle, ARefusedLoginLeavesNoDatabaseAndTheRememberedFolder)
 
 TEST_F(Lifecycle, MissingNewerTablesComeFromTheTemplates)
 {
+    // shared by a group, whatever the habits of the person who opens it
+    const QFile::Permissions shared = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup |
+                                      QFile::WriteGroup | QFile::ReadUser | QFile::WriteUser;
+    for (const QFileInfo &file : QDir(db.path()).entryInfoList(QDir::Files))
+        ASSERT_TRUE(QFile::setPermissions(file.filePath(), shared));
     for (const char *name :
          {"nvniactions.dbf", "nvniactions.cdx", "nvniactions.fpt", "nvnitempl.cdx"})
         remove(QString::fromLatin1(name));
     ASSERT_TRUE(gDB.OpenDB(db.path()));
     EXPECT_EQ(28, QDir(db.path()).entryList({u"*.dbf"_s, u"*.cdx"_s, u"*.fpt"_s}).size());
+    for (const QFileInfo &file : QDir(db.path()).entryInfoList({u"nvni*"_s}, QDir::Files))
+        EXPECT_EQ(file.permissions(), shared) << qPrintable(file.fileName());
     const qint32 action = db.add(u"_issueaction"_s, {{"issueid", 5}, {"desc", u"called"_s}});
     EXPECT_GT(action, 0);
 

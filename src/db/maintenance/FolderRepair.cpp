@@ -1,10 +1,8 @@
 #include "db/maintenance/FolderRepair.h"
 
-#include "common/base/AppInfo.h"
 #include "db/clsDB.h"
 #include "db/FieldText.h"
 #include "db/maintenance/Advice.h"
-#include "db/maintenance/IndexRepair.h"
 
 #include <QFile>
 #include <QHash>
@@ -59,12 +57,10 @@ void FolderRepair::restoreFiles(const schema::TableInfo &table)
         const QString &file = files.at(i);
         if (!m_files.pathOf(file).isEmpty() || (isIndex(table, file) && !none))
             continue;
-        const QString target = clsDB::MakePath(m_files.folder(), file);
         const bool made =
             table.repairable && none &&
-            QFile::copy(clsDB::MakePath(app::programFolder(), table.templateFiles().at(i)), target);
-        if (made)
-            QFile::setPermissions(target, QFile::permissions(target) | QFile::WriteOwner);
+            clsDB::copyTemplate(table.templateFiles().at(i), m_files.folder(), file) &&
+            clsDB::keepNames(m_files.folder());
         add(file,
             made ? QStringLiteral("the file was missing and is there again, empty")
                  : QStringLiteral("the file is missing"),
@@ -80,13 +76,9 @@ void FolderRepair::repairTable(const schema::TableInfo &table)
     });
     if (!possible)
         return; // said already
-    const QString index = m_files.pathOf(table.indexFile());
-    const clsDB::FileTriple paths{
-        m_files.pathOf(table.dataFile()),
-        index.isEmpty() ? clsDB::MakePath(m_files.folder(), table.indexFile()) : index,
-        clsDB::MakePath(app::programFolder(), table.templateFiles().at(1))};
     std::vector<RepairLine> lines;
-    const Code code = repairWithIndex(m_files.session(), paths, lines);
+    const std::string path = m_files.pathOf(table.dataFile()).toStdString();
+    const Code code = d4repair(m_files.session(), path, lines);
     QHash<QString, int> left;
     for (const RepairLine &line : lines) {
         const ExplainedLine explained = explainLine(QString::fromStdString(line.text), table);

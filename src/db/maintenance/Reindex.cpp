@@ -1,7 +1,6 @@
 #include "db/maintenance/Reindex.h"
 
 #include "common/base/clsSystem.h"
-#include "db/maintenance/IndexRepair.h"
 #include "db/TableUse.h"
 
 #include <QFile>
@@ -25,6 +24,15 @@ public:
 private:
     Handle m_session;
 };
+
+// A name that is not taken yet: the path with a number behind.
+QString asidePath(const QString &path)
+{
+    int number = 1;
+    while (QFile::exists(path % u'.' % QString::number(number)))
+        ++number;
+    return path % u'.' % QString::number(number);
+}
 
 // A copy and no move: at no moment an empty or missing index stands under the live name.
 bool keepAside(const QString &index)
@@ -56,7 +64,7 @@ ReindexOutcome reindexTable(const clsDB &db, const clsDB::FileTriple &files)
         // Most likely an index that cannot even be opened.
         std::vector<RepairLine> lines;
         code4accessMode(session, 0);
-        const Code code = repairWithIndex(session, files, lines);
+        const Code code = d4repair(session, path, lines);
         return code == r4success ? ReindexOutcome::Done : failure(code);
     }
     const bool kept = keepAside(clsSystem::LocalPath(files.index));
