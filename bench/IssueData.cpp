@@ -72,15 +72,6 @@ std::string_view someDate(Numbers &numbers)
 
 } // namespace
 
-std::uint64_t Numbers::next()
-{
-    m_state += 0x9E3779B97F4A7C15;
-    std::uint64_t z = m_state;
-    z = (z ^ z >> 30) * 0xBF58476D1CE4E5B9;
-    z = (z ^ z >> 27) * 0x94D049BB133111EB;
-    return z ^ z >> 31;
-}
-
 int customersFor(int rows)
 {
     return std::max(100, static_cast<int>(rows * 0.13));

@@ -1,6 +1,8 @@
 // The issues both stores are filled with: every field filled, always the same for a number.
 #pragma once
 
+#include "db/volume/Dice.h"
+
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -33,16 +35,6 @@ std::string companyName(int custId);
 std::string userName(int user);
 std::string statusName(int status);
 
-// Numbers that look random, the same in every run.
-class Numbers
-{
-public:
-    explicit Numbers(std::uint64_t seed) : m_state(seed) {}
-    std::uint64_t next();
-    int below(int limit) { return static_cast<int>(next() % static_cast<std::uint64_t>(limit)); }
-
-private:
-    std::uint64_t m_state;
-};
+using Numbers = volume::Dice;
 
 } // namespace bench

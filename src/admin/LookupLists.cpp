@@ -1,6 +1,7 @@
 #include "admin/LookupLists.h"
 
 #include "admin/frmEditCategories.h"
+#include "db/LookupTypes.h"
 
 #include <algorithm>
 
@@ -25,52 +26,52 @@ struct ListInfo {
 constexpr Reference Nowhere{Table::Category, nullptr};
 
 constexpr ListInfo lists[] = {
-    {1,
+    {lookup_type::CustomerCategories,
      "Edit Customer Categories",
      "Customer Categories",
      "LISTMGMT_CUSTOMERCATEGORIES",
      {{Table::Customer, "custcat"}, Nowhere}},
-    {2,
+    {lookup_type::Products,
      "Edit Products/Services",
      "Products/Services",
      "LISTMGMT_PRODUCTSERVICECATEGORIES",
      {{Table::Customer2PS, "psid"}, {Table::Issues, "psid"}}},
-    {3,
+    {lookup_type::States,
      "Edit States/Provinces",
      "States/Provinces",
      "LISTMGMT_STATECATEGORIES",
      {{Table::Customer, "state"}, Nowhere}},
-    {4,
+    {lookup_type::Countries,
      "Edit Countries",
      "Countries",
      "LISTMGMT_COUNTRYCATEGORIES",
      {{Table::Customer, "country"}, Nowhere}},
-    {101,
+    {lookup_type::IssueStatuses,
      "Edit Issue Statuses",
      "Issue Statuses",
      "LISTMGMT_ISSUESTATUSES",
      {{Table::Issues, "status"}, Nowhere}},
-    {102,
+    {lookup_type::IssuePriorities,
      "Edit Issue Priorities",
      "Issue Priorities",
      "LISTMGMT_ISSUEPRIORITIES",
      {{Table::Issues, "priority"}, Nowhere}},
-    {103,
+    {lookup_type::ContractTypes,
      "Edit Contract Types",
      "Contract Types",
      "LISTMGMT_CONTRACTTYPECATEGORIES",
      {{Table::Customer2PS, "conttype"}, Nowhere}},
-    {104,
+    {lookup_type::ContractDurations,
      "Edit Contract Durations",
      "Contract Durations",
      "LISTMGMT_CONTRACTDURATIONCATEGORIES",
      {{Table::Customer2PS, "contdur"}, Nowhere}},
-    {105,
+    {lookup_type::IssueCategories,
      "Edit Issue Categories",
      "Issue Categories",
      "LISTMGMT_ISSUECATETORIES",
      {{Table::Issues, "issuecat"}, Nowhere}},
-    {106,
+    {lookup_type::IssueActions,
      "Edit Issue Actions",
      "Issue Actions",
      "LISTMGMT_ISSUEACTIONSTATUSES",
@@ -80,12 +81,10 @@ constexpr ListInfo lists[] = {
 // Choices for the custom fields, which keep plain text: no record refers to them.
 constexpr ListInfo quickEntries = {
     0, "Edit Quick Entry List", "Quick Entry List", "LISTMGMT_CUSTOMFIELDS", {Nowhere, Nowhere}};
-constexpr qint32 FirstQuickEntry = 200;
-constexpr qint32 LastQuickEntry = 205;
 
 const ListInfo *listInfo(qint32 type)
 {
-    if (type >= FirstQuickEntry && type <= LastQuickEntry)
+    if (type >= lookup_type::CustomerCustom1 && type <= lookup_type::SubscriptionCustom2)
         return &quickEntries;
     const auto *found = std::find_if(std::begin(lists), std::end(lists),
                                      [type](const ListInfo &info) { return info.type == type; });

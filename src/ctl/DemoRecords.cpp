@@ -5,6 +5,7 @@
 #include "db/clsDB.h"
 #include "db/import/CsvReader.h"
 #include "db/import/CsvText.h"
+#include "db/LookupTypes.h"
 #include "db/TableUse.h"
 
 #include <QDir>
@@ -22,11 +23,7 @@ constexpr int kIssues = 240;
 constexpr int kAttachEvery = 12; // of the issues
 constexpr int kIssueDays = 400;  // how far back they go
 
-// Lookup lists by type code, and entries that every database has.
-constexpr int kProducts = 2;
-constexpr int kPriorities = 102;
-constexpr int kCategories = 105;
-constexpr int kActions = 106;
+// Entries that every database has.
 constexpr qint32 kOpen = 400;
 constexpr qint32 kClosed = 401;
 constexpr qint32 kUnfinished[] = {402, 403, 404, 405, kOpen};
@@ -124,7 +121,8 @@ bool DemoRecords::readIds()
     for (bool more = customers.top(); more; more = customers.next())
         m_customers.append(customers.number(QStringLiteral("rowid")));
     categories.select(QStringLiteral("type"));
-    for (bool more = categories.seek(kProducts); more; more = categories.seekNext(kProducts))
+    for (bool more = categories.seek(lookup_type::Products); more;
+         more = categories.seekNext(lookup_type::Products))
         m_products.append(categories.number(QStringLiteral("rowid")));
     return !m_customers.isEmpty() && !m_products.isEmpty();
 }
@@ -170,14 +168,15 @@ bool DemoRecords::addTemplates()
                                  m_db.IssuesTemplatesTable(), QStringLiteral("rowid"),
                                  QStringLiteral("name"), 0};
     for (const Row &row : rows) {
-        const qint32 id = save(schema::Table::IssuesTemplates, QStringLiteral("_issuetemplate"),
-                               {{"psid", entry(row.value(TProduct), kProducts)},
-                                {"shortdesc", row.value(TSubject)},
-                                {"priority", entry(row.value(TPriority), kPriorities)},
-                                {"status", kOpen},
-                                {"issuecat", entry(row.value(TCategory), kCategories)},
-                                {"desc", row.value(TDescription)},
-                                {"resolution", row.value(TResolution)}});
+        const qint32 id =
+            save(schema::Table::IssuesTemplates, QStringLiteral("_issuetemplate"),
+                 {{"psid", entry(row.value(TProduct), lookup_type::Products)},
+                  {"shortdesc", row.value(TSubject)},
+                  {"priority", entry(row.value(TPriority), lookup_type::IssuePriorities)},
+                  {"status", kOpen},
+                  {"issuecat", entry(row.value(TCategory), lookup_type::IssueCategories)},
+                  {"desc", row.value(TDescription)},
+                  {"resolution", row.value(TResolution)}});
         if (id < 1 || m_db.AddUpdateItem(names, id, row.value(Name)) != id)
             return false;
     }
@@ -232,19 +231,20 @@ bool DemoRecords::addIssue(const Row &story, QDate submitted)
     const QDate answered = std::min(submitted.addDays(pick(3)), today);
     const QDate resolved = std::min(answered.addDays(pick(9)), today);
     const qint32 person = one(m_people);
-    const qint32 issue = save(schema::Table::Issues, QStringLiteral("_issue"),
-                              {{"custid", one(m_customers)},
-                               {"psid", entry(story.value(Product), kProducts)},
-                               {"shortdesc", story.value(Subject)},
-                               {"assignedto", person},
-                               {"priority", entry(story.value(Priority), kPriorities)},
-                               {"status", settled ? kClosed : one(kUnfinished)},
-                               {"issuecat", entry(story.value(Category), kCategories)},
-                               {"submitdt", stored(submitted)},
-                               {"responsedt", stored(answered)},
-                               {"resolvedt", settled ? stored(resolved) : QString()},
-                               {"desc", story.value(Description)},
-                               {"resolution", settled ? story.value(Resolution) : QString()}});
+    const qint32 issue =
+        save(schema::Table::Issues, QStringLiteral("_issue"),
+             {{"custid", one(m_customers)},
+              {"psid", entry(story.value(Product), lookup_type::Products)},
+              {"shortdesc", story.value(Subject)},
+              {"assignedto", person},
+              {"priority", entry(story.value(Priority), lookup_type::IssuePriorities)},
+              {"status", settled ? kClosed : one(kUnfinished)},
+              {"issuecat", entry(story.value(Category), lookup_type::IssueCategories)},
+              {"submitdt", stored(submitted)},
+              {"responsedt", stored(answered)},
+              {"resolvedt", settled ? stored(resolved) : QString()},
+              {"desc", story.value(Description)},
+              {"resolution", settled ? story.value(Resolution) : QString()}});
     if (issue < 1)
         return false;
     const bool withFile = issue % kAttachEvery == 0;
@@ -261,7 +261,7 @@ bool DemoRecords::addActions(qint32 issue, const Row &story, QDate day, QDate la
         if (save(schema::Table::IssuesActions, QStringLiteral("_issueaction"),
                  {{"issueid", issue},
                   {"date", stored(at == Actions ? day : last)},
-                  {"action", entry(story.value(at), kActions)},
+                  {"action", entry(story.value(at), lookup_type::IssueActions)},
                   {"perfby", person},
                   {"desc", story.value(at + 1)},
                   {"duration", story.value(at + 2).toDouble()}}) < 1)

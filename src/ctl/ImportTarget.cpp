@@ -2,6 +2,7 @@
 
 #include "db/clsDB.h"
 #include "db/import/ImportRun.h"
+#include "db/LookupTypes.h"
 
 namespace ctl
 {
@@ -24,16 +25,22 @@ const QList<ImportTarget> &importTargets()
 {
     static const QList<ImportTarget> all{
         {QStringLiteral("customers"), 0, QStringLiteral("customers")},
-        {QStringLiteral("categories"), 1, QStringLiteral("customer categories")},
-        {QStringLiteral("products"), 2, QStringLiteral("products and services")},
-        {QStringLiteral("states"), 3, QStringLiteral("states and provinces")},
-        {QStringLiteral("countries"), 4, QStringLiteral("countries")},
-        {QStringLiteral("statuses"), 101, QStringLiteral("issue statuses")},
-        {QStringLiteral("priorities"), 102, QStringLiteral("issue priorities")},
-        {QStringLiteral("contracttypes"), 103, QStringLiteral("contract types")},
-        {QStringLiteral("contractdurations"), 104, QStringLiteral("contract durations")},
-        {QStringLiteral("issuecategories"), 105, QStringLiteral("issue categories")},
-        {QStringLiteral("actions"), 106, QStringLiteral("issue actions")},
+        {QStringLiteral("categories"), lookup_type::CustomerCategories,
+         QStringLiteral("customer categories")},
+        {QStringLiteral("products"), lookup_type::Products,
+         QStringLiteral("products and services")},
+        {QStringLiteral("states"), lookup_type::States, QStringLiteral("states and provinces")},
+        {QStringLiteral("countries"), lookup_type::Countries, QStringLiteral("countries")},
+        {QStringLiteral("statuses"), lookup_type::IssueStatuses, QStringLiteral("issue statuses")},
+        {QStringLiteral("priorities"), lookup_type::IssuePriorities,
+         QStringLiteral("issue priorities")},
+        {QStringLiteral("contracttypes"), lookup_type::ContractTypes,
+         QStringLiteral("contract types")},
+        {QStringLiteral("contractdurations"), lookup_type::ContractDurations,
+         QStringLiteral("contract durations")},
+        {QStringLiteral("issuecategories"), lookup_type::IssueCategories,
+         QStringLiteral("issue categories")},
+        {QStringLiteral("actions"), lookup_type::IssueActions, QStringLiteral("issue actions")},
     };
     return all;
 }

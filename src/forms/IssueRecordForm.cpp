@@ -1,7 +1,7 @@
 #include "forms/IssueRecordForm.h"
 
+#include "db/LookupTypes.h"
 #include "forms/IssueFieldsCtl.h"
-#include "forms/LookupTypes.h"
 #include "ui_IssueFieldsCtl.h"
 
 #include <QPlainTextEdit>

@@ -10,6 +10,7 @@
 #include "common/ui/Switchboard.h"
 #include "db/clsCustomLabels.h"
 #include "db/clsLookupCustomer.h"
+#include "db/LookupTypes.h"
 #include "forms/ContactsGrid.h"
 #include "ui_frmCustomer.h"
 
@@ -22,13 +23,6 @@ constexpr int kPSPage = 2;
 constexpr int kIssuesPage = 3;
 constexpr int kColumnCharacters = 96; // a label and a field of 80
 constexpr int kWindowCharacters = 148;
-
-// Lookup lists that this form shows, by type code.
-constexpr int kCustomerCategories = 1;
-constexpr int kStates = 3;
-constexpr int kCountries = 4;
-constexpr int kCustom1Entries = 200;
-constexpr int kCustom2Entries = 201;
 
 RecordSpec customerSpec()
 {
@@ -92,22 +86,22 @@ void frmCustomer::bindFields()
     bind(QStringLiteral("firstname"), m_ui->txtFname);
     bind(QStringLiteral("lastname"), m_ui->txtLname);
     bind(QStringLiteral("company"), m_ui->txtCoName);
-    bindLookup(QStringLiteral("custcat"), m_ui->cboCategory, kCustomerCategories);
+    bindLookup(QStringLiteral("custcat"), m_ui->cboCategory, lookup_type::CustomerCategories);
     bind(QStringLiteral("title"), m_ui->txtTitle);
     bind(QStringLiteral("address1"), m_ui->txtAddress1);
     bind(QStringLiteral("address2"), m_ui->txtAddress2);
     bind(QStringLiteral("city"), m_ui->txtCity);
-    bindLookup(QStringLiteral("state"), m_ui->cboStates, kStates);
+    bindLookup(QStringLiteral("state"), m_ui->cboStates, lookup_type::States);
     bind(QStringLiteral("postalcode"), m_ui->txtPostalCode);
-    bindLookup(QStringLiteral("country"), m_ui->cboCountry, kCountries);
+    bindLookup(QStringLiteral("country"), m_ui->cboCountry, lookup_type::Countries);
     bind(QStringLiteral("workphone"), m_ui->txtWorkPhone);
     bind(QStringLiteral("homephone"), m_ui->txtHomePhone);
     bind(QStringLiteral("mobilphone"), m_ui->txtMobilePhone);
     bind(QStringLiteral("faxphone"), m_ui->txtFaxphone);
     bind(QStringLiteral("emailname"), m_ui->txtEmailName);
     bind(QStringLiteral("emailname2"), m_ui->txtEmailName2);
-    bindText(QStringLiteral("custom1"), m_ui->txtCust1, kCustom1Entries);
-    bindText(QStringLiteral("custom2"), m_ui->txtCust2, kCustom2Entries);
+    bindText(QStringLiteral("custom1"), m_ui->txtCust1, lookup_type::CustomerCustom1);
+    bindText(QStringLiteral("custom2"), m_ui->txtCust2, lookup_type::CustomerCustom2);
     bind(QStringLiteral("notes"), m_ui->txtNote);
     bindCustom(
         QStringLiteral("contacts"), m_ui->grdContacts,
@@ -117,11 +111,11 @@ void frmCustomer::bindFields()
 
 void frmCustomer::bindListEditors()
 {
-    bindListEditor(m_ui->cboCatCategory, m_ui->cboCategory, kCustomerCategories);
-    bindListEditor(m_ui->cmdCatStates, m_ui->cboStates, kStates);
-    bindListEditor(m_ui->cboCatCountry, m_ui->cboCountry, kCountries);
-    bindListEditor(m_ui->cmdCust1Cat, m_ui->txtCust1, kCustom1Entries);
-    bindListEditor(m_ui->cmdCust2Cat, m_ui->txtCust2, kCustom2Entries);
+    bindListEditor(m_ui->cboCatCategory, m_ui->cboCategory, lookup_type::CustomerCategories);
+    bindListEditor(m_ui->cmdCatStates, m_ui->cboStates, lookup_type::States);
+    bindListEditor(m_ui->cboCatCountry, m_ui->cboCountry, lookup_type::Countries);
+    bindListEditor(m_ui->cmdCust1Cat, m_ui->txtCust1, lookup_type::CustomerCustom1);
+    bindListEditor(m_ui->cmdCust2Cat, m_ui->txtCust2, lookup_type::CustomerCustom2);
 }
 
 // Boxes for short entries are no wider than what goes into them, and no column is wider than its

@@ -8,8 +8,8 @@
 #include "common/ui/Icons.h"
 #include "common/ui/Switchboard.h"
 #include "db/FieldText.h"
+#include "db/LookupTypes.h"
 #include "db/TableUse.h"
-#include "forms/LookupTypes.h"
 #include "ui_frmIssueAction.h"
 
 #include <algorithm>

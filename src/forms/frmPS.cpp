@@ -3,6 +3,7 @@
 #include "common/base/clsSystem.h"
 #include "common/base/HelpTopics.h"
 #include "common/form/LabelledLine.h"
+#include "db/LookupTypes.h"
 #include "forms/Subscription.h"
 #include "ui_frmPS.h"
 
@@ -13,13 +14,6 @@ constexpr int kNotesPage = 1;
 constexpr int kColumnCharacters = 84; // a label and a field of 60
 constexpr int kDateCharacters = 14;
 constexpr int kWindowCharacters = 128;
-
-// Lookup lists that this form shows, by type code.
-constexpr int kProducts = 2;
-constexpr int kContractTypes = 103;
-constexpr int kContractDurations = 104;
-constexpr int kCustom1Entries = 204;
-constexpr int kCustom2Entries = 205;
 
 RecordSpec subscriptionSpec()
 {
@@ -62,26 +56,28 @@ frmPS::~frmPS() = default;
 void frmPS::bindFields()
 {
     bindCustomer();
-    bindLookup(QStringLiteral("psid"), m_ui->cboPS, kProducts);
-    bindLookup(QStringLiteral("conttype"), m_ui->cboContractType, kContractTypes);
-    bindLookup(QStringLiteral("contdur"), m_ui->cboContractDuration, kContractDurations);
+    bindLookup(QStringLiteral("psid"), m_ui->cboPS, lookup_type::Products);
+    bindLookup(QStringLiteral("conttype"), m_ui->cboContractType, lookup_type::ContractTypes);
+    bindLookup(QStringLiteral("contdur"), m_ui->cboContractDuration,
+               lookup_type::ContractDurations);
     bind(QStringLiteral("shortdesc"), m_ui->txtShortDesc);
     bind(QStringLiteral("contno"), m_ui->txtContractNumber);
     bind(QStringLiteral("trackno"), m_ui->txtTrackNo);
     bindDate(QStringLiteral("dateinit"), m_ui->txtDateInitiated);
     bindDate(QStringLiteral("dateterm"), m_ui->txtDateTerminated);
     bind(QStringLiteral("notes"), m_ui->txtNote);
-    bindText(QStringLiteral("custom1"), m_ui->txtCust1, kCustom1Entries);
-    bindText(QStringLiteral("custom2"), m_ui->txtCust2, kCustom2Entries);
+    bindText(QStringLiteral("custom1"), m_ui->txtCust1, lookup_type::SubscriptionCustom1);
+    bindText(QStringLiteral("custom2"), m_ui->txtCust2, lookup_type::SubscriptionCustom2);
 }
 
 void frmPS::bindListEditors()
 {
-    bindListEditor(m_ui->cmdCatPS, m_ui->cboPS, kProducts);
-    bindListEditor(m_ui->cmdCatContractType, m_ui->cboContractType, kContractTypes);
-    bindListEditor(m_ui->cmdCatContractDuration, m_ui->cboContractDuration, kContractDurations);
-    bindListEditor(m_ui->cmdCust1Cat, m_ui->txtCust1, kCustom1Entries);
-    bindListEditor(m_ui->cmdCust2Cat, m_ui->txtCust2, kCustom2Entries);
+    bindListEditor(m_ui->cmdCatPS, m_ui->cboPS, lookup_type::Products);
+    bindListEditor(m_ui->cmdCatContractType, m_ui->cboContractType, lookup_type::ContractTypes);
+    bindListEditor(m_ui->cmdCatContractDuration, m_ui->cboContractDuration,
+                   lookup_type::ContractDurations);
+    bindListEditor(m_ui->cmdCust1Cat, m_ui->txtCust1, lookup_type::SubscriptionCustom1);
+    bindListEditor(m_ui->cmdCust2Cat, m_ui->txtCust2, lookup_type::SubscriptionCustom2);
     bindCalendar(m_ui->cmdCalendar_0, m_ui->txtDateInitiated);
     bindCalendar(m_ui->cmdCalendar_1, m_ui->txtDateTerminated);
 }

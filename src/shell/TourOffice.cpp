@@ -1,6 +1,7 @@
 // The steps of the tour that look after the database: lookup lists, users, and the way to help.
 #include "common/ui/ListView.h"
 #include "db/clsDB.h"
+#include "db/LookupTypes.h"
 #include "shell/TourHands.h"
 
 #include <QApplication>
@@ -14,7 +15,6 @@ namespace
 
 using hands::typeInto;
 
-constexpr qint32 customerCategories = 1;
 const QString newCategory = QStringLiteral("Orchards & Farms");
 const QString colleague = QStringLiteral("maria");
 
@@ -35,7 +35,7 @@ void Tour::extendList()
         control<QPushButton>(editor, "cmdClose")->click();
     });
     pressAndAnswer(QStringLiteral("CATCUST"));
-    need(gDB.CategoryExists(newCategory, customerCategories) > 0,
+    need(gDB.CategoryExists(newCategory, lookup_type::CustomerCategories) > 0,
          QStringLiteral("the new entry is not stored"));
 }
 

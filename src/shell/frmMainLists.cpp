@@ -3,27 +3,9 @@
 
 #include "admin/LookupLists.h"
 #include "db/clsDB.h"
+#include "db/LookupTypes.h"
 
 #include <QLabel>
-
-namespace
-{
-
-// Type codes of the lists.
-enum List : qint32 {
-    CustomerCategories = 1,
-    ProductsServices = 2,
-    States = 3,
-    Countries = 4,
-    IssueStatuses = 101,
-    IssuePriorities = 102,
-    ContractTypes = 103,
-    ContractDurations = 104,
-    IssueCategories = 105,
-    IssueActions = 106
-};
-
-} // namespace
 
 void frmMain::EditCategory(qint32 type)
 {
@@ -32,52 +14,52 @@ void frmMain::EditCategory(qint32 type)
 
 void frmMain::EditCustomerCategory()
 {
-    EditCategory(CustomerCategories);
+    EditCategory(lookup_type::CustomerCategories);
 }
 
 void frmMain::EditProductServiceCategory()
 {
-    EditCategory(ProductsServices);
+    EditCategory(lookup_type::Products);
 }
 
 void frmMain::EditContractTypesCategory()
 {
-    EditCategory(ContractTypes);
+    EditCategory(lookup_type::ContractTypes);
 }
 
 void frmMain::EditContractDurationsCategory()
 {
-    EditCategory(ContractDurations);
+    EditCategory(lookup_type::ContractDurations);
 }
 
 void frmMain::EditStateCategory()
 {
-    EditCategory(States);
+    EditCategory(lookup_type::States);
 }
 
 void frmMain::EditCountryCategory()
 {
-    EditCategory(Countries);
+    EditCategory(lookup_type::Countries);
 }
 
 void frmMain::EditIssueStatusCategory()
 {
-    EditCategory(IssueStatuses);
+    EditCategory(lookup_type::IssueStatuses);
 }
 
 void frmMain::EditIssueActionsCategory()
 {
-    EditCategory(IssueActions);
+    EditCategory(lookup_type::IssueActions);
 }
 
 void frmMain::EditIssuePriorityCategory()
 {
-    EditCategory(IssuePriorities);
+    EditCategory(lookup_type::IssuePriorities);
 }
 
 void frmMain::EditIssueCategory()
 {
-    EditCategory(IssueCategories);
+    EditCategory(lookup_type::IssueCategories);
 }
 
 void frmMain::EditCustomFieldCategory(qint32 type)

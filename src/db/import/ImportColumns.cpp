@@ -1,5 +1,6 @@
 // The columns an import file may have, and where each one goes.
 #include "db/import/clsImportData.h"
+#include "db/LookupTypes.h"
 
 namespace
 {
@@ -19,9 +20,6 @@ clsImportColDef column(const char *name, const char *target, bool required = fal
 
 clsImportColDefs customerImportColumns()
 {
-    constexpr int Categories = 1;
-    constexpr int States = 3;
-    constexpr int Countries = 4;
     return {
         column("CUSTOMERNUMBER", "custno"),
         column("SALUTATION", "salutation"),
@@ -32,9 +30,9 @@ clsImportColDefs customerImportColumns()
         column("ADDRESSLINE1", "address1"),
         column("ADDRESSLINE2", "address2"),
         column("CITY", "city"),
-        column("STATE", "state", false, States),
+        column("STATE", "state", false, lookup_type::States),
         column("POSTALCODE", "postalcode"),
-        column("COUNTRY", "country", false, Countries),
+        column("COUNTRY", "country", false, lookup_type::Countries),
         column("CUSTOM1", "custom1"),
         column("CUSTOM2", "custom2"),
         column("WORKPHONE", "workphone"),
@@ -43,7 +41,7 @@ clsImportColDefs customerImportColumns()
         column("FAXPHONE", "faxphone"),
         column("EMAILDEFAULT", "emailname"),
         column("EMAILALTERNATE", "emailname2"),
-        column("CATEGORY", "custcat", false, Categories),
+        column("CATEGORY", "custcat", false, lookup_type::CustomerCategories),
         column("NOTES", "notes"),
     };
 }

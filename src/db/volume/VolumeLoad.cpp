@@ -3,6 +3,7 @@
 #include "common/base/clsSystem.h"
 #include "common/base/Failure.h"
 #include "db/FieldText.h"
+#include "db/LookupTypes.h"
 #include "db/TableUse.h"
 #include "db/volume/VolumeTexts.h"
 
@@ -17,7 +18,6 @@ namespace volume
 namespace
 {
 
-enum ListType { Categories = 1, Products = 2, Statuses = 101, Priorities = 102, Kinds = 105 };
 constexpr qint32 Closed = 401; // the status that new databases have for it
 constexpr int RowsBetweenQuestions = 5000;
 
@@ -102,13 +102,14 @@ Entries entriesOf(clsDB &db, qint32 type)
 
 Entries products(clsDB &db, qint32 wanted)
 {
-    const auto present = static_cast<qint32>(entriesOf(db, Products).size());
+    const auto present = static_cast<qint32>(entriesOf(db, lookup_type::Products).size());
     {
         const TableUse rows(db, db.CategoryTable());
         for (qint32 number = present; rows && number < wanted; ++number)
-            db.AddCategory(QString::fromStdString(productName(number)), Products, rows.handle());
+            db.AddCategory(QString::fromStdString(productName(number)), lookup_type::Products,
+                           rows.handle());
     }
-    return entriesOf(db, Products);
+    return entriesOf(db, lookup_type::Products);
 }
 
 std::vector<qint32> users(clsDB &db, qint32 wanted)
@@ -140,7 +141,7 @@ qint32 idOf(Dice &dice, const Entries &entries)
 
 bool addCustomers(clsDB &db, qint32 first, qint32 count, const std::function<bool()> &goOn)
 {
-    const Entries categories = entriesOf(db, Categories);
+    const Entries categories = entriesOf(db, lookup_type::CustomerCategories);
     const SoleUse alone(db.CBEngine());
     Adder rows(db, schema::Table::Customer);
     if (!rows)
@@ -231,8 +232,9 @@ bool fill(clsDB &db, const Size &size, const std::function<bool()> &goOn)
     return guarded("volume_fill", false, [&] {
         if (!db.MayWrite())
             return false;
-        IssueLists lists{products(db, size.products), entriesOf(db, Statuses),
-                         entriesOf(db, Priorities), entriesOf(db, Kinds), users(db, size.users)};
+        IssueLists lists{products(db, size.products), entriesOf(db, lookup_type::IssueStatuses),
+                         entriesOf(db, lookup_type::IssuePriorities),
+                         entriesOf(db, lookup_type::IssueCategories), users(db, size.users)};
         if (lists.products.empty() || lists.users.empty())
             return false;
         const QString customers = schema::table(schema::Table::Customer).dataFile();

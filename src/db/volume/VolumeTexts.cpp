@@ -78,15 +78,6 @@ std::string lowerCase(std::string text)
 
 } // namespace
 
-std::uint64_t Dice::next()
-{
-    m_state += 0x9E3779B97F4A7C15;
-    std::uint64_t z = m_state;
-    z = (z ^ z >> 30) * 0xBF58476D1CE4E5B9;
-    z = (z ^ z >> 27) * 0x94D049BB133111EB;
-    return z ^ z >> 31;
-}
-
 Customer makeCustomer(std::uint64_t number)
 {
     Dice dice(number << 20U);

@@ -2,29 +2,14 @@
 // firms and addresses are invented. Texts are stored bytes.
 #pragma once
 
+#include "db/volume/Dice.h"
+
 #include <cstdint>
 #include <string>
 #include <string_view>
 
 namespace volume
 {
-
-// Numbers that look random, the same each time for a seed.
-class Dice
-{
-public:
-    explicit Dice(std::uint64_t seed) : m_state(seed) {}
-    std::uint64_t next();
-    int below(int limit) { return static_cast<int>(next() % static_cast<std::uint64_t>(limit)); }
-    template <class List>
-    auto &oneOf(const List &list)
-    {
-        return list[next() % std::size(list)];
-    }
-
-private:
-    std::uint64_t m_state;
-};
 
 struct Customer {
     std::string firstName, lastName, company, address, city, postalCode, phone, email;
