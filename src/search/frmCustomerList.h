@@ -1,10 +1,8 @@
-// The hits of a customer search in a sortable list, from which a customer is opened. The window
-// keeps its criteria and can be refreshed.
+// The hits of a customer search, from which a customer is opened.
 #pragma once
 
-#include "common/ui/FormWindow.h"
-#include "common/ui/ListView.h"
 #include "db/engine/engine.h"
+#include "search/HitListWindow.h"
 
 #include <array>
 #include <memory>
@@ -15,7 +13,7 @@ namespace Ui
 class frmCustomerList;
 }
 
-class frmCustomerList : public FormWindow
+class frmCustomerList : public HitListWindow
 {
     Q_OBJECT
 public:
@@ -25,12 +23,10 @@ public:
     // SearchType is one of CustomerSearch; an empty text lists every customer.
     void Init(const QString &sSearchStr, qint32 SearchType);
     void LoadData();
-    void SetUI();
-    // Room for all columns and a page of hits.
-    QSize sizeHint() const override;
 
 protected:
-    void closeEvent(QCloseEvent *event) override;
+    void reload() override { LoadData(); }
+    void openRecord(qint32 rowid) override;
 
 private:
     using Handle = norvane::engine::Handle;
@@ -40,24 +36,17 @@ private:
     };
 
     void setUpList();
-    void addShortcuts();
-    void printList();
-    void openCustomer(const QString &key);
-    void reload();
 
-    void runSearch(Handle table);
-    void LoadCustomersWithTag(Handle table, const QString &sTag);
-    void LoadAllCustomers(Handle table, qint32 SearchType);
+    // These are false when the person cancelled.
+    bool runSearch(Handle table);
+    bool LoadCustomersWithTag(Handle table, const QString &sTag);
+    bool LoadAllCustomers(Handle table, qint32 SearchType);
     bool CustomerMeetsCriteria(const CustomerMatcher &matcher, const AddressFields &stringFlds);
     bool FieldContainsSearchStr(const CustomerMatcher &matcher, Handle fld);
     static ListFields listFields(Handle table);
-    ListView::Row AddLvItem(const ListFields &fields) const;
-    void DisplayResultCnt();
+    void AddLvItem(const ListFields &fields);
 
     std::unique_ptr<Ui::frmCustomerList> ui;
     QString m_sSearchStr;
     qint32 m_SearchType = 0;
-    int m_columnsWidth = 0; // pixels at 96 dpi
-    bool m_bLoading = false;
-    bool m_bCancelled = false;
 };

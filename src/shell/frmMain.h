@@ -2,9 +2,9 @@
 // which every other screen is opened.
 //
 // frmMain.cpp: its life and states. frmMainMenus.cpp: which commands there are and where they
-// stand. frmMainFile.cpp: the File commands. frmMainCommands.cpp: customers.
-// frmMainRecords.cpp: the records that belong to customers. frmMainReports.cpp: reports.
-// frmMainHelp.cpp: Help.
+// stand. frmMainFile.cpp: the File commands. frmMainCommands.cpp: customers. frmMainIssues.cpp:
+// lists of issues. frmMainRecords.cpp: the records that belong to customers. frmMainReports.cpp:
+// reports. frmMainHelp.cpp: Help.
 // frmMainAdmin.cpp: users, passwords and statistics. frmMainLists.cpp: lookup lists.
 // frmMainMail.cpp: mail. frmMainWindows.cpp: child windows and the Window menu.
 #pragma once
@@ -56,6 +56,8 @@ public:
     void LookupCustomer() override;
     void LookupByCustomerNumber(); // asks for the Customer ID until it is one
     void LookupByIssueNumber();    // the same for an issue
+    void SearchIssues();
+    void MyIssues();
     void NewCustomer() override;
     void EditCategory(qint32 type) override;
     QString GetShortDateFromPopupCalendar(const QString &start) override;

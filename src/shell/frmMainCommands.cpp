@@ -47,7 +47,7 @@ QString askForNumber(const QString &prompt, const QString &refusal)
 {
     for (;;) {
         const QString answer = clsSystem::Trim(
-            prompts::input(prompt, app::title(), {}, help::LookupByNumber).value_or(QString()));
+            prompts::input(prompt, app::title(), {}, help::FindIssues).value_or(QString()));
         if (answer.isEmpty() || IsNumeric(answer))
             return answer;
         prompts::warn(refusal);

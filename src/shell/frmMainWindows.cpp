@@ -1,12 +1,20 @@
 // The child windows and the Window menu.
 #include "shell/frmMain.h"
 
+#include "common/base/clsSystem.h"
 #include "common/ui/FormWindow.h"
 #include "shell/ChildWindow.h"
 #include "shell/MdiArrange.h"
 #include "ui_frmMain.h"
 
 #include <QMenu>
+
+namespace
+{
+
+constexpr int longestTitle = 80; // characters: one may tell the words of a long search
+
+} // namespace
 
 void frmMain::tileHorizontally()
 {
@@ -78,7 +86,7 @@ void frmMain::fillWindowMenu()
 
 void frmMain::listWindow(QMenu *menu, QMdiSubWindow *window, int number)
 {
-    QString title = window->windowTitle();
+    QString title = clsSystem::StrTruncate(window->windowTitle(), longestTitle);
     title.replace(u'&', QLatin1String("&&"));
     if (number < 10)
         title.prepend(QString(u'&' + QString::number(number) + u' '));

@@ -30,7 +30,10 @@
 #include "reports/frmRptDisplayColumns.h"
 #include "reports/frmRptFilterColumns.h"
 #include "search/frmCustomerList.h"
+#include "search/frmIssueList.h"
 #include "search/frmLookupCustomer.h"
+#include "search/frmMyIssues.h"
+#include "search/frmSearchIssues.h"
 #include "shell/frmLogin.h"
 #include "shell/frmSplash.h"
 #include "shell/frmTip.h"
@@ -189,7 +192,10 @@ TEST_F(MainWindow, EveryWindowCanBeReadAloudAndHasKeysOfOneMeaning)
              return form;
          }},
         {"frmLogin", plain<frmLogin>()},
+        {"frmIssueList", plain<frmIssueList>()},
         {"frmLookupCustomer", plain<frmLookupCustomer>()},
+        {"frmMyIssues", plain<frmMyIssues>()},
+        {"frmSearchIssues", plain<frmSearchIssues>()},
         {"frmMessage", plain<frmMessage>()},
         {"frmOptions", plain<frmOptions>()},
         {"frmPreferences", plain<frmPreferences>()},

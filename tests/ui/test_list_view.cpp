@@ -1,4 +1,6 @@
 // The list of the screens: keys, selection, sorting, and what it does with very many rows.
+#include "common/base/Prompts.h"
+#include "common/base/TextOrder.h"
 #include "common/ui/ListView.h"
 #include "support/FakeHost.h"
 
@@ -12,6 +14,10 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <algorithm>
+#include <numeric>
+#include <random>
 
 namespace
 {
@@ -276,6 +282,77 @@ TEST_F(ListViewTest, FilesAreListedAsTheyAreOnTheDisk)
     EXPECT_EQ(m_list.itemCount(), 0);
 }
 
+TEST_F(ListViewTest, KeepsEveryTextAsItIs)
+{
+    const QStringList texts{QString(),
+                            QStringLiteral("caf\u00e9"),
+                            QStringLiteral("\u20ac 5 \u6f22\u5b57"),
+                            QString(100, u'x'),
+                            QString(70000, u'\u0416'),
+                            QString(2'000'000, u'y'),
+                            QString(QChar(0xD800)) + u'\0' + u'z'}; // half a character
+    for (int id = 0; id < texts.size(); ++id)
+        m_list.addItem(texts[id] + key(id), {texts[id], QString(), texts[texts.size() - 1 - id]});
+    for (int id = 0; id < texts.size(); ++id) {
+        EXPECT_EQ(m_list.rowOfKey(texts[id] + key(id)), id);
+        EXPECT_EQ(m_list.itemKey(id), texts[id] + key(id));
+        EXPECT_EQ(m_list.itemText(id, 0), texts[id]);
+        EXPECT_EQ(m_list.itemText(id, 1), QString());
+        EXPECT_EQ(m_list.itemText(id, 2), texts[texts.size() - 1 - id]);
+    }
+    EXPECT_EQ(m_list.itemText(0, 3), QString());
+    EXPECT_EQ(m_list.itemText(0, -1), QString());
+    EXPECT_EQ(m_list.itemText(int(texts.size()), 0), QString());
+    EXPECT_TRUE(m_list.removeItem(texts[4] + key(4)));
+    EXPECT_EQ(m_list.itemText(4, 0), texts[5]);
+}
+
+TEST_F(ListViewTest, AHeadingMayBeginAscending)
+{
+    add(1, QStringLiteral("b"), QStringLiteral("x"), QStringLiteral("2"));
+    add(2, QStringLiteral("a"), QStringLiteral("y"), QStringLiteral("1"));
+    m_list.setAscendingFirst(true);
+    clickHeading(1);
+    EXPECT_EQ(m_list.itemKey(0), key(2));
+    clickHeading(1);
+    EXPECT_EQ(m_list.itemKey(0), key(1));
+    clickHeading(0);
+    EXPECT_EQ(m_list.sortOrder(), Qt::AscendingOrder);
+    clickHeading(1);
+    EXPECT_EQ(m_list.sortOrder(), Qt::AscendingOrder);
+}
+
+TEST_F(ListViewTest, SortsLikeAPlainStableSort)
+{
+    std::mt19937 random(7);
+    const auto below = [&random](int limit) { return static_cast<int>(random() % limit); };
+    QStringList texts;
+    for (int id = 0; id < 3000; ++id) {
+        QString text;
+        for (int length = below(4) == 0 ? 30 : below(12); length > 0; --length)
+            text += QStringLiteral("aAb\u00e9e ")[below(6)];
+        texts += below(3) == 0 && id > 0 ? texts[below(id)] : text;
+        add(id, texts.last());
+    }
+    const TextOrder order;
+    for (const Qt::SortOrder direction : {Qt::AscendingOrder, Qt::DescendingOrder}) {
+        std::vector<int> rows(3000);
+        std::iota(rows.begin(), rows.end(), 0);
+        std::stable_sort(rows.begin(), rows.end(), [&](int left, int right) {
+            const int difference = order.key(texts[left]).compare(order.key(texts[right]));
+            return direction == Qt::AscendingOrder ? difference < 0 : difference > 0;
+        });
+        m_list.beginLoad(); // in the order they were added again
+        m_list.clearItems();
+        for (int id = 0; id < 3000; ++id)
+            add(id, texts[id]);
+        m_list.sortBy(0, direction);
+        m_list.endLoad();
+        for (int at = 0; at < 3000; ++at)
+            ASSERT_EQ(m_list.itemKey(at), key(rows[static_cast<size_t>(at)])) << at;
+    }
+}
+
 TEST_F(ListViewTest, AnEmptyListSaysWhy)
 {
     const QImage blank = m_list.grab().toImage();
@@ -305,6 +382,63 @@ TEST_F(ListViewTest, TakesAHundredThousandRowsSortedAndSelected)
     EXPECT_TRUE(LvSelectItem(&m_list, key(4711)));
     EXPECT_EQ(LvGetSelectedItemText(&m_list),
               QStringLiteral("Name %1").arg(4711 * 7919 % count, 6, 10, QChar(u'0')));
+}
+
+// A progress window that is cancelled from the start, in the hands of somebody slow.
+class CancelledSort : public ListViewTest
+{
+protected:
+    CancelledSort() : m_before(prompts::backend())
+    {
+        struct Pressed : prompts::Progress {
+            void setPercent(int) override {}
+            void setMessage(const QString &) override {}
+            bool cancelled() const override { return true; }
+        };
+        prompts::backend().progress = [this](const QString &, const QString &message, bool,
+                                             bool cancel) {
+            EXPECT_EQ(message, QStringLiteral("Sorting the list. Please wait..."));
+            EXPECT_TRUE(cancel);
+            EXPECT_FALSE(m_list.isEnabled()); // nothing else can be begun
+            ++m_asked;
+            return std::make_unique<Pressed>();
+        };
+        rows = 300'000;
+        m_list.beginLoad();
+        for (int id = 0; id < rows; ++id)
+            add(id, QString::number(id * 7919 % rows));
+    }
+    ~CancelledSort() override { prompts::backend() = m_before; }
+
+    prompts::Backend m_before;
+    int rows = 0;
+    int m_asked = 0;
+};
+
+TEST_F(CancelledSort, ShowsWhatWasLoadedAsItCame)
+{
+    m_list.sortBy(0, Qt::AscendingOrder);
+    m_list.endLoad();
+    EXPECT_EQ(m_asked, 1);
+    EXPECT_EQ(m_list.itemCount(), rows);
+    EXPECT_EQ(m_list.itemKey(1), key(1));
+    EXPECT_EQ(m_list.sortColumn(), -1);
+    EXPECT_FALSE(m_list.header()->isSortIndicatorShown());
+    EXPECT_TRUE(m_list.isEnabled());
+}
+
+TEST_F(CancelledSort, LeavesAListThatIsShownAsItWas)
+{
+    m_list.endLoad();
+    EXPECT_EQ(m_asked, 0);
+    EXPECT_TRUE(LvSelectItem(&m_list, key(5)));
+    clickHeading(0);
+    EXPECT_EQ(m_asked, 1);
+    EXPECT_EQ(m_list.itemKey(1), key(1));
+    EXPECT_EQ(LvGetSelectedItemKey(&m_list), key(5));
+    EXPECT_EQ(m_list.sortColumn(), -1);
+    m_list.addItem(key(rows), {QStringLiteral("0")});
+    EXPECT_EQ(m_list.itemKey(rows), key(rows));
 }
 
 } // namespace

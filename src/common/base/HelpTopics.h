@@ -18,7 +18,8 @@ enum Topic {
     Backup = 1090,
     LookupCustomer = 1200,
     CustomerList = 1210,
-    LookupByNumber = 1220,
+    FindIssues = 1220, // and records by their number
+    MyIssues = 1230,
     Customer = 1300,
     Issue = 1310,
     IssueActions = 1315,

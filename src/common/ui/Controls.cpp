@@ -40,21 +40,31 @@ QColor buttonTint(const QColor &back)
                            back.value());
 }
 
-// A disabled box greys its text; what a record holds must stay readable while it is locked.
-void paintField(QWidget *field, bool locked)
+// A pick-only box is drawn as a button.
+QPalette tinted(const QWidget *field, const QColor &back)
 {
-    const QPalette standard = QApplication::palette(field);
-    const QColor text = standard.color(QPalette::Active, QPalette::Text);
-    const QColor back = locked ? readOnlyColour(field) : editableColour(field);
+    const QColor text = QApplication::palette(field).color(QPalette::Active, QPalette::Text);
     QPalette palette;
     palette.setColor(QPalette::Base, back);
     palette.setColor(QPalette::Text, text);
-    if (locked) {
-        palette.setColor(QPalette::Button,
-                         buttonTint(back)); // a pick-only box is drawn as a button
-        palette.setColor(QPalette::ButtonText, text);
-    }
-    field->setPalette(palette);
+    palette.setColor(QPalette::Button, buttonTint(back));
+    palette.setColor(QPalette::ButtonText, text);
+    return palette;
+}
+
+QPalette untinted(const QWidget *field)
+{
+    QPalette palette;
+    palette.setColor(QPalette::Base, editableColour(field));
+    palette.setColor(QPalette::Text,
+                     QApplication::palette(field).color(QPalette::Active, QPalette::Text));
+    return palette;
+}
+
+// A disabled box greys its text; what a record holds must stay readable while it is locked.
+void paintField(QWidget *field, bool locked)
+{
+    field->setPalette(locked ? tinted(field, readOnlyColour(field)) : untinted(field));
 }
 
 // The same for a frame of options, which still looks locked.
@@ -172,6 +182,18 @@ QColor editableColour(const QWidget *control)
 {
     const QColor base = baseColour(control);
     return isDark(base) ? base : QColor(Qt::white);
+}
+
+QColor warningColour(const QWidget *control)
+{
+    const QColor red(0xFF, 0xC0, 0xC0);
+    const QColor base = baseColour(control);
+    return isDark(base) ? blend(base, QColor(0xFF, 0x40, 0x40), 0.35) : red;
+}
+
+void markChoice(QComboBox *combo, bool unusual)
+{
+    combo->setPalette(unusual ? tinted(combo, warningColour(combo)) : untinted(combo));
 }
 
 void shortcutFor(QWidget *form, const QKeySequence &key, QAbstractButton *button)

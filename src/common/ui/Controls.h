@@ -54,6 +54,10 @@ void LockControls(QWidget *form, bool locked, const QString &tag);
 // Pale yellow and white on a light palette, blends of the same meaning on a dark one.
 QColor readOnlyColour(const QWidget *control);
 QColor editableColour(const QWidget *control);
+// Light red, and a dark one of the same meaning.
+QColor warningColour(const QWidget *control);
+// A choice that differs from the usual one stands out in that colour.
+void markChoice(QComboBox *combo, bool unusual);
 
 // The key clicks the button from anywhere in the form.
 void shortcutFor(QWidget *form, const QKeySequence &key, QAbstractButton *button);

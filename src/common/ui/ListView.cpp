@@ -1,6 +1,7 @@
 #include "common/ui/ListView.h"
 
 #include "common/ui/ListViewModel.h"
+#include "common/ui/LongSort.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -58,8 +59,7 @@ ListView::ListView(QWidget *parent) : QTreeView(parent), m_model(new ListViewMod
     header()->setSectionsClickable(true);
     header()->setHighlightSections(false);
 
-    connect(header(), &QHeaderView::sectionClicked, this,
-            [this](int column) { LVSort(this, column); });
+    connect(header(), &QHeaderView::sectionClicked, this, &ListView::headingClicked);
     connect(this, &QTreeView::doubleClicked, this,
             [this](const QModelIndex &index) { Q_EMIT itemActivated(itemKey(index.row())); });
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this,
@@ -75,7 +75,6 @@ int ListView::widthFromDesign(int pixels) const
 
 void ListView::setColumns(const QList<Column> &columns)
 {
-    m_batch.clear();
     m_model->setColumns(columns);
     for (int at = 0; at < columns.size(); ++at) {
         setColumnHidden(at, columns[at].hidden);
@@ -96,7 +95,6 @@ QList<ListView::Column> ListView::columns() const
 
 void ListView::clearItems()
 {
-    m_batch.clear();
     m_model->clear();
     viewport()->update();
 }
@@ -104,17 +102,24 @@ void ListView::clearItems()
 void ListView::addItem(const QString &key, const QStringList &texts)
 {
     if (m_loads > 0)
-        m_batch.push_back({key, texts});
+        m_model->addWaiting(key, texts);
     else
-        m_model->insert({key, texts});
+        m_model->insert(key, texts);
 }
 
-void ListView::addItems(QList<Row> rows)
+void ListView::addItems(const QList<Row> &rows)
 {
-    if (m_loads > 0)
-        m_batch.insert(m_batch.end(), rows.begin(), rows.end());
-    else
-        m_model->append({rows.begin(), rows.end()});
+    for (const Row &row : rows)
+        m_model->addWaiting(row.key, row.texts);
+    if (m_loads == 0)
+        showWaiting();
+}
+
+void ListView::showWaiting()
+{
+    LongSort sort(this, m_model->countWithWaiting());
+    m_model->showWaiting([&sort] { return sort.goOn(); });
+    showSortIndicator();
 }
 
 bool ListView::removeItem(const QString &key)
@@ -128,17 +133,17 @@ bool ListView::removeItem(const QString &key)
 
 int ListView::itemCount() const
 {
-    return m_model->count() + static_cast<int>(m_batch.size());
+    return m_model->countWithWaiting();
 }
 
 QString ListView::itemKey(int row) const
 {
-    return row >= 0 && row < m_model->count() ? m_model->row(row).key : QString();
+    return row >= 0 && row < m_model->count() ? m_model->key(row) : QString();
 }
 
 QString ListView::itemText(int row, int column) const
 {
-    return row >= 0 && row < m_model->count() ? m_model->row(row).texts.value(column) : QString();
+    return row >= 0 && row < m_model->count() ? m_model->text(row, column) : QString();
 }
 
 int ListView::rowOfKey(const QString &key) const
@@ -156,13 +161,22 @@ void ListView::endLoad()
 {
     if (m_loads == 0 || --m_loads > 0)
         return;
-    m_model->append(std::exchange(m_batch, {}));
+    showWaiting();
     setUpdatesEnabled(true);
+}
+
+void ListView::headingClicked(int column)
+{
+    if (m_ascendingFirst && column != std::exchange(m_lastHeading, column))
+        sortBy(sortSubstitute(column), Qt::AscendingOrder);
+    else
+        LVSort(this, column);
 }
 
 void ListView::sortBy(int column, Qt::SortOrder order)
 {
-    m_model->sort(column, order);
+    LongSort sort(this, m_model->count());
+    m_model->sortRows(column, order, [&sort] { return sort.goOn(); });
     showSortIndicator();
 }
 

@@ -1,152 +1,125 @@
 #include "common/ui/ListViewModel.h"
 
+#include "common/base/TextOrder.h"
+#include "common/ui/RowSort.h"
+
 #include <algorithm>
-#include <numeric>
 
 namespace
 {
 
-QString cell(const ListView::Row &row, int column)
+// Of the locale that the program has from its start.
+const TextOrder &textOrder()
 {
-    return row.texts.value(column);
+    static const TextOrder order;
+    return order;
 }
 
 } // namespace
 
-ListViewModel::ListViewModel(QObject *parent) : QAbstractTableModel(parent)
-{
-    m_collator.setCaseSensitivity(Qt::CaseInsensitive);
-}
+ListViewModel::ListViewModel(QObject *parent) : QAbstractTableModel(parent) {}
 
 void ListViewModel::setColumns(const QList<ListView::Column> &columns)
 {
     beginResetModel();
     m_columns = columns;
     m_rows.clear();
-    m_rowOfKey.clear();
+    m_shown = 0;
     m_sortColumn = -1;
     m_sortOrder = Qt::AscendingOrder;
     endResetModel();
 }
 
-void ListViewModel::append(std::vector<ListView::Row> rows)
+// Rows that nobody has seen yet are sorted before they are shown, which spares the view a change.
+void ListViewModel::showWaiting(const GoOn &goOn)
 {
-    if (rows.empty())
+    const int first = m_shown;
+    const int all = m_rows.count();
+    if (first == all)
         return;
-    const int first = count();
-    beginInsertRows({}, first, first + static_cast<int>(rows.size()) - 1);
-    if (m_rows.empty())
-        m_rows = std::move(rows);
-    else
-        m_rows.insert(m_rows.end(), std::make_move_iterator(rows.begin()),
-                      std::make_move_iterator(rows.end()));
-    m_rowOfKey.clear();
+    if (first == 0 && m_sortColumn >= 0) {
+        const auto order = sortedRows(m_rows, m_sortColumn, m_sortOrder, textOrder(), goOn);
+        if (order)
+            m_rows.arrange(*order);
+        else
+            m_sortColumn = -1;
+    }
+    beginInsertRows({}, first, all - 1);
+    m_shown = all;
     endInsertRows();
-    if (m_sortColumn >= 0)
-        sort(m_sortColumn, m_sortOrder);
+    if (first > 0 && m_sortColumn >= 0 && !sortRows(m_sortColumn, m_sortOrder, goOn))
+        m_sortColumn = -1;
 }
 
-void ListViewModel::insert(ListView::Row row)
+void ListViewModel::insert(const QString &key, const QStringList &texts)
 {
-    auto place = m_rows.end();
-    if (m_sortColumn >= 0)
-        place = std::upper_bound(m_rows.begin(), m_rows.end(), row,
-                                 [this](const ListView::Row &left, const ListView::Row &right) {
-                                     return inOrder(cell(left, m_sortColumn),
-                                                    cell(right, m_sortColumn));
-                                 });
-    const int at = static_cast<int>(place - m_rows.begin());
+    int at = m_shown;
+    if (m_sortColumn >= 0) {
+        const std::string wanted = textOrder().key(texts.value(m_sortColumn));
+        for (int low = 0; low < at;) { // behind the last that does not come after it
+            const int middle = low + (at - low) / 2;
+            const std::string other = textOrder().key(text(middle, m_sortColumn));
+            const bool after = m_sortOrder == Qt::AscendingOrder ? wanted < other : wanted > other;
+            (after ? at : low) = after ? middle : middle + 1;
+        }
+    }
     beginInsertRows({}, at, at);
-    m_rows.insert(place, std::move(row));
-    m_rowOfKey.clear();
+    m_rows.insert(at, key, texts);
+    ++m_shown;
     endInsertRows();
 }
 
 void ListViewModel::removeAt(int row)
 {
     beginRemoveRows({}, row, row);
-    m_rows.erase(m_rows.begin() + row);
-    m_rowOfKey.clear();
+    m_rows.removeAt(row);
+    --m_shown;
     endRemoveRows();
 }
 
 void ListViewModel::clear()
 {
-    if (m_rows.empty())
-        return;
-    beginRemoveRows({}, 0, count() - 1);
+    if (m_shown > 0)
+        beginRemoveRows({}, 0, m_shown - 1);
     m_rows.clear();
-    m_rowOfKey.clear();
-    endRemoveRows();
+    if (std::exchange(m_shown, 0) > 0)
+        endRemoveRows();
 }
 
-int ListViewModel::rowOfKey(const QString &key) const
-{
-    if (m_rowOfKey.isEmpty()) {
-        m_rowOfKey.reserve(count());
-        for (int at = count() - 1; at >= 0; --at) // the first of equal keys wins
-            m_rowOfKey.insert(row(at).key, at);
-    }
-    return m_rowOfKey.value(key, -1);
-}
-
-void ListViewModel::sort(int column, Qt::SortOrder order)
+bool ListViewModel::sortRows(int column, Qt::SortOrder order, const GoOn &goOn)
 {
     if (column >= m_columns.size())
-        return;
-    m_sortColumn = std::max(column, -1);
+        return true;
+    column = std::max(column, -1);
+    // Rows that wait are sorted when they are shown.
+    if (column >= 0 && m_shown > 1 && m_shown == m_rows.count()) {
+        const auto rows = sortedRows(m_rows, column, order, textOrder(), goOn);
+        if (!rows)
+            return false;
+        if (!std::is_sorted(rows->begin(), rows->end()))
+            moveRows(*rows);
+    }
+    m_sortColumn = column;
     m_sortOrder = order;
-    if (m_sortColumn < 0 || m_rows.size() < 2)
-        return;
-    const std::vector<int> rows = sortedRows();
-    if (!std::is_sorted(rows.begin(), rows.end()))
-        applyOrder(rows);
+    return true;
 }
 
-bool ListViewModel::inOrder(const QString &left, const QString &right) const
-{
-    const int difference = m_collator.compare(left.toCaseFolded(), right.toCaseFolded());
-    return m_sortOrder == Qt::AscendingOrder ? difference < 0 : difference > 0;
-}
-
-// Old row numbers in their new order. Each text is turned into its sort key once; the collator
-// itself would be asked a million times over for a long list.
-std::vector<int> ListViewModel::sortedRows() const
-{
-    std::vector<QCollatorSortKey> keys;
-    keys.reserve(m_rows.size());
-    for (const ListView::Row &row : m_rows)
-        keys.push_back(m_collator.sortKey(cell(row, m_sortColumn).toCaseFolded()));
-    std::vector<int> rows(m_rows.size());
-    std::iota(rows.begin(), rows.end(), 0);
-    const bool ascending = m_sortOrder == Qt::AscendingOrder;
-    std::stable_sort(rows.begin(), rows.end(), [&keys, ascending](int left, int right) {
-        const int difference =
-            keys[static_cast<size_t>(left)].compare(keys[static_cast<size_t>(right)]);
-        return ascending ? difference < 0 : difference > 0;
-    });
-    return rows;
-}
-
-void ListViewModel::applyOrder(const std::vector<int> &oldRows)
+void ListViewModel::moveRows(const std::vector<std::uint32_t> &order)
 {
     Q_EMIT layoutAboutToBeChanged({}, QAbstractItemModel::VerticalSortHint);
-    std::vector<ListView::Row> sorted;
-    sorted.reserve(m_rows.size());
-    std::vector<int> newRows(m_rows.size());
-    for (const int old : oldRows) {
-        newRows[static_cast<size_t>(old)] = static_cast<int>(sorted.size());
-        sorted.push_back(std::move(m_rows[static_cast<size_t>(old)]));
-    }
-    m_rows = std::move(sorted);
-    m_rowOfKey.clear();
-
+    m_rows.arrange(order);
     const QModelIndexList before = persistentIndexList();
-    QModelIndexList after;
-    after.reserve(before.size());
-    for (const QModelIndex &index : before)
-        after.append(createIndex(newRows[static_cast<size_t>(index.row())], index.column()));
-    changePersistentIndexList(before, after);
+    if (!before.isEmpty()) {
+        std::vector<int> newRows(order.size());
+        for (std::size_t at = 0; at < order.size(); ++at)
+            newRows[order[at]] = static_cast<int>(at);
+        QModelIndexList after;
+        after.reserve(before.size());
+        for (const QModelIndex &index : before)
+            after.append(
+                createIndex(newRows[static_cast<std::size_t>(index.row())], index.column()));
+        changePersistentIndexList(before, after);
+    }
     Q_EMIT layoutChanged({}, QAbstractItemModel::VerticalSortHint);
 }
 
@@ -165,7 +138,7 @@ QVariant ListViewModel::data(const QModelIndex &index, int role) const
     if (!index.isValid())
         return {};
     if (role == Qt::DisplayRole || role == Qt::EditRole)
-        return cell(row(index.row()), index.column());
+        return text(index.row(), index.column());
     if (role == Qt::TextAlignmentRole && m_columns[index.column()].right)
         return QVariant::fromValue(Qt::Alignment(Qt::AlignRight | Qt::AlignVCenter));
     return {};
@@ -176,15 +149,12 @@ bool ListViewModel::setData(const QModelIndex &index, const QVariant &value, int
 {
     if (!index.isValid() || index.column() != 0 || role != Qt::EditRole || !m_labelStore)
         return false;
-    const QString key = row(index.row()).key;
-    const std::optional<QString> label = m_labelStore(key, value.toString());
-    const int at = rowOfKey(key);
+    const QString rowKey = key(index.row());
+    const std::optional<QString> label = m_labelStore(rowKey, value.toString());
+    const int at = rowOfKey(rowKey);
     if (!label || at < 0)
         return false;
-    QStringList &texts = m_rows[static_cast<size_t>(at)].texts;
-    if (texts.isEmpty())
-        texts.append(QString());
-    texts[0] = *label;
+    m_rows.setText(at, 0, *label);
     const QModelIndex changed = this->index(at, 0);
     Q_EMIT dataChanged(changed, changed);
     return true;

@@ -1,13 +1,10 @@
-// Rows of a ListView: plain texts in the order shown, sorted here by one column.
+// Rows of a ListView in the order shown, sorted here by one column.
 #pragma once
 
+#include "common/ui/ListRows.h"
 #include "common/ui/ListView.h"
 
 #include <QAbstractTableModel>
-#include <QCollator>
-#include <QHash>
-
-#include <vector>
 
 class ListViewModel : public QAbstractTableModel
 {
@@ -18,20 +15,28 @@ public:
     void setColumns(const QList<ListView::Column> &columns); // drops all rows
     const QList<ListView::Column> &columns() const { return m_columns; }
 
-    // Appends; a sorted list is sorted anew, with the new rows behind their equals.
-    void append(std::vector<ListView::Row> rows);
+    // Asked while rows are sorted, whether to go on.
+    using GoOn = std::function<bool()>;
+
+    // Rows that wait are there for nobody until they are shown: together, behind their equals in a
+    // sorted list. When `goOn` ends the sort they are shown as they came, and the list is no
+    // longer sorted.
+    void addWaiting(const QString &key, const QStringList &texts) { m_rows.append(key, texts); }
+    void showWaiting(const GoOn &goOn);
     // Puts one row at its place in the sort order, else at the end.
-    void insert(ListView::Row row);
+    void insert(const QString &key, const QStringList &texts);
     void removeAt(int row);
     void clear();
 
-    const ListView::Row &row(int row) const { return m_rows[static_cast<size_t>(row)]; }
-    int count() const { return static_cast<int>(m_rows.size()); }
-    int rowOfKey(const QString &key) const; // -1 when there is none
+    int count() const { return m_shown; }
+    int countWithWaiting() const { return m_rows.count(); }
+    QString key(int row) const { return m_rows.key(row); }
+    QString text(int row, int column) const { return m_rows.text(row, column); }
+    int rowOfKey(const QString &key) const { return m_rows.rowOfKey(key, m_shown); } // -1: none
 
     // Stable, without regard to case, in the order of the user's language; a column of -1 only
-    // ends sorting.
-    void sort(int column, Qt::SortOrder order) override;
+    // ends sorting. False when `goOn` ended it: everything is as it was.
+    bool sortRows(int column, Qt::SortOrder order, const GoOn &goOn);
     int sortColumn() const { return m_sortColumn; }
     Qt::SortOrder sortOrder() const { return m_sortOrder; }
 
@@ -46,16 +51,12 @@ public:
     Qt::ItemFlags flags(const QModelIndex &index) const override;
 
 private:
-    bool inOrder(const QString &left, const QString &right) const;
-    std::vector<int> sortedRows() const;
-    void applyOrder(const std::vector<int> &oldRows);
+    void moveRows(const std::vector<std::uint32_t> &order);
 
     QList<ListView::Column> m_columns;
-    std::vector<ListView::Row> m_rows;
-    // Filled by the first look-up after a change.
-    mutable QHash<QString, int> m_rowOfKey;
+    ListRows m_rows;
+    int m_shown = 0; // the others wait
     ListView::LabelStore m_labelStore;
-    QCollator m_collator;
     int m_sortColumn = -1;
     Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
 };
