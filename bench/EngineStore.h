@@ -44,6 +44,12 @@ public:
     long containsMemo(std::string_view word) override;
     std::vector<Row> report(int status) override;
 
+    // EngineSearch.cpp
+    long searchShort(std::string_view word) override;
+    long searchMemos(std::string_view word) override;
+    long listProduct(int product) override;
+    long listPerson(int user) override;
+
 private:
     // A table while it is in use.
     class Use
@@ -70,6 +76,7 @@ private:
         face::Handle m_table;
     };
     struct Opened; // what stays open between open() and close()
+    class HitList; // the rows that a window shows
 
     std::string path(schema::Table which, const char *extension) const;
     void makeFiles(schema::Table which) const;

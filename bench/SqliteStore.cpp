@@ -84,6 +84,10 @@ public:
     long walkCustomer(int custId) override;
     long containsShort(std::string_view word) override;
     long containsMemo(std::string_view word) override;
+    long searchShort(std::string_view word) override;
+    long searchMemos(std::string_view word) override;
+    long listProduct(int product) override;
+    long listPerson(int user) override;
     std::vector<Row> report(int status) override;
 
 private:
@@ -98,6 +102,8 @@ private:
 
     Connection connection() const { return {m_path, m_durable}; }
     static long walk(Statement &statement);
+    template <class Value>
+    long hits(const char *condition, Value value) const;
 
     std::string m_path;
     bool m_durable = false;
@@ -255,6 +261,50 @@ long SqliteStore::containsMemo(std::string_view word)
                                " OR resolution LIKE ?1");
     statement.bind(pattern).step();
     return statement.number(0);
+}
+
+// Collects rows with their texts and names.
+template <class Value>
+long SqliteStore::hits(const char *condition, Value value) const
+{
+    const std::string sql = std::string("SELECT i.rowid, i.shortdesc, k.desc, c.company"
+                                        " FROM issues i"
+                                        " LEFT JOIN customers c ON c.rowid = i.custid"
+                                        " LEFT JOIN categories k ON k.rowid = i.status WHERE ") +
+                            condition;
+    struct Shown {
+        int rowid;
+        std::string shortDesc, status, customer;
+    };
+    std::vector<Shown> rows;
+    Statement statement(*m_db, sql.c_str());
+    statement.bind(value);
+    while (statement.step())
+        rows.push_back({statement.number(0), std::string(statement.text(1)),
+                        std::string(statement.text(2)), std::string(statement.text(3))});
+    return static_cast<long>(rows.size());
+}
+
+long SqliteStore::searchShort(std::string_view word)
+{
+    const std::string pattern = '%' + std::string(word) + '%';
+    return hits("i.shortdesc LIKE ?", std::string_view(pattern));
+}
+
+long SqliteStore::searchMemos(std::string_view word)
+{
+    const std::string pattern = '%' + std::string(word) + '%';
+    return hits("i.desc LIKE ?1 OR i.resolution LIKE ?1", std::string_view(pattern));
+}
+
+long SqliteStore::listProduct(int product)
+{
+    return hits("i.psid = ?", product);
+}
+
+long SqliteStore::listPerson(int user)
+{
+    return hits("i.assignedto = ?", user);
 }
 
 std::vector<Store::Row> SqliteStore::report(int status)

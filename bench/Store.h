@@ -43,6 +43,13 @@ public:
     virtual long walkCustomer(int custId) = 0;
     virtual long containsShort(std::string_view word) = 0;
     virtual long containsMemo(std::string_view word) = 0;
+    // As the windows of issues do it, up to the rows that they show: a word in short descriptions,
+    // or in descriptions and resolutions; the issues of a product or a person, with company and
+    // status by name.
+    virtual long searchShort(std::string_view word) = 0;
+    virtual long searchMemos(std::string_view word) = 0;
+    virtual long listProduct(int product) = 0;
+    virtual long listPerson(int user) = 0;
     // Rows of the status with company, assignee and status by name, sorted by their text.
     using Row = std::vector<std::string>;
     virtual std::vector<Row> report(int status) = 0;

@@ -19,6 +19,7 @@ constexpr int kDurableCounts = 300;
 constexpr int kMostCustomers = 10000; // walked
 constexpr int kOneStatus = kFirstId + 3;
 constexpr int kOneUser = kFirstId + 7;
+constexpr int kOneProduct = kFirstId + 5;
 constexpr double kMega = 1e6;
 
 int someRow(Numbers &numbers, const Ground &ground)
@@ -116,6 +117,15 @@ Measured walkCustomers(Store &store, const Ground &ground)
     return measured;
 }
 
+// Milliseconds for 10,000 hits.
+template <class F>
+Measured listed(Store &store, F work)
+{
+    Measured measured = opened(store, work);
+    measured.figure *= 1e7 / static_cast<double>(measured.found);
+    return measured;
+}
+
 double floorOfSort(const Floors &floors, const Ground & /*ground*/)
 {
     return floors.sortAndWriteKeys();
@@ -175,6 +185,32 @@ std::vector<Workload> makeWorkloads()
                        return opened(store, [&] { return store.containsMemo(kRareWord); });
                    },
                    [](const Floors &f, const Ground &) { return f.readMemos(); }});
+    all.push_back({"search_short", "s", 3, false,
+                   [](Store &store, const Ground &) {
+                       return opened(store, [&] { return store.searchShort(kRareWord); });
+                   },
+                   [](const Floors &f, const Ground &) { return f.readRows(); }});
+    all.push_back({"search_memos", "s", 3, false,
+                   [](Store &store, const Ground &) {
+                       return opened(store, [&] { return store.searchMemos(kRareWord); });
+                   },
+                   [](const Floors &f, const Ground &) { return f.readMemos(); }});
+    all.push_back({"list_product",
+                   "ms/10k",
+                   3,
+                   false,
+                   [](Store &store, const Ground &) {
+                       return listed(store, [&] { return store.listProduct(kOneProduct); });
+                   },
+                   {}});
+    all.push_back({"list_person",
+                   "ms/10k",
+                   3,
+                   false,
+                   [](Store &store, const Ground &) {
+                       return listed(store, [&] { return store.listPerson(kOneUser); });
+                   },
+                   {}});
     all.push_back({"report_100k", "s", 3, false,
                    [](Store &store, const Ground &) {
                        return opened(store, [&] {

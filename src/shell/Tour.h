@@ -48,6 +48,8 @@ private:
     void workOnIssue();
     void noteAction(frmIssue *form);
     void closeIssue(frmIssue *form);
+    void findIssue();
+    void seeMyIssues();
     void seeSecondStation();
     void extendList(); // these three: TourOffice.cpp
     void addUser();

@@ -1,9 +1,12 @@
-// The steps of the tour on issues: one is prepared as a template, logged, worked on and closed.
+// The steps of the tour on issues: one is prepared as a template, logged, worked on, closed and
+// found again.
 #include "common/ui/ListView.h"
 #include "db/clsDB.h"
 #include "forms/frmCustomer.h"
 #include "forms/frmIssue.h"
 #include "forms/frmIssueTemplate.h"
+#include "search/frmIssueList.h"
+#include "search/frmMyIssues.h"
 #include "shell/TourHands.h"
 
 #include <QCheckBox>
@@ -115,4 +118,40 @@ void Tour::closeIssue(frmIssue *form)
     need(storedField(issue, QStringLiteral("resolution"), QStringLiteral("issues"))
              .contains(QLatin1String("tray 2")),
          QStringLiteral("the second workstation does not see the resolution"));
+}
+
+void Tour::findIssue()
+{
+    m_visitor->expect(QStringLiteral("frmSearchIssues"), [this](QWidget *dialog) {
+        typeInto(control<QLineEdit>(dialog, "txtSearch"), QStringLiteral("roller drum"));
+        control<QCheckBox>(dialog, "ckSearchWhat_0")->setChecked(true);
+        control<QCheckBox>(dialog, "ckSearchWhat_2")->setChecked(true);
+        shoot(QStringLiteral("search-issues"));
+        hands::pressOk(dialog);
+    });
+    pressAndAnswer(QStringLiteral("SEARCHISSUES"));
+    auto *found = newestForm<frmIssueList>();
+    auto *hits = control<ListView>(found, "lv");
+    need(hits->itemCount() == 1 && hits->itemText(0, 0) == QLatin1String("Paper jam"),
+         QStringLiteral("the search does not find the issue by its resolution"));
+    shoot(QStringLiteral("issues-found"));
+    hands::pressEnter(hits);
+    newestForm<frmIssue>()->close();
+    found->close();
+}
+
+void Tour::seeMyIssues()
+{
+    press(QStringLiteral("MYISSUES"));
+    auto *mine = newestForm<frmMyIssues>();
+    need(control<ListView>(mine, "lv")->itemCount() == 1,
+         QStringLiteral("the list of one's own issues does not show the issue"));
+    shoot(QStringLiteral("my-issues"));
+    auto *status = control<QComboBox>(mine, "cboStatus");
+    status->setCurrentText(QStringLiteral("Open"));
+    need(control<ListView>(mine, "lv")->itemCount() == 0,
+         QStringLiteral("the closed issue is among the open ones"));
+    shoot(QStringLiteral("my-open-issues"));
+    status->setCurrentIndex(0);
+    mine->close();
 }

@@ -51,6 +51,8 @@ void Tour::allSteps()
     step(QStringLiteral("Prepare a template for issues"), [this] { prepareTemplate(); });
     step(QStringLiteral("Log an issue from it, note an action, close it"),
          [this] { workOnIssue(); });
+    step(QStringLiteral("Find the issue by words of its texts"), [this] { findIssue(); });
+    step(QStringLiteral("Look at one's own issues"), [this] { seeMyIssues(); });
     step(QStringLiteral("See what the second workstation changed"), [this] { seeSecondStation(); });
     step(QStringLiteral("Add an entry to a lookup list"), [this] { extendList(); });
     step(QStringLiteral("Give a colleague a login"), [this] { addUser(); });
