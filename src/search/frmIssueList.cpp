@@ -23,10 +23,10 @@ void frmIssueList::setUpList()
 {
     setUpHits({ui->lv, ui->lblCust, ui->cmdProperties, ui->cmdRefresh, ui->cmdPrint,
                ui->CancelButton, tr(" Issue(s)")},
-              {{tr("Short Description"), QStringLiteral("D"), 270},
-               {tr("Product/Service"), QStringLiteral("P"), 225},
-               {tr("Status"), QStringLiteral("S"), 135},
-               {tr("Customer"), QStringLiteral("C"), 270}});
+              {{tr("Short Description"), QStringLiteral("D"), 342},
+               {tr("Product/Service"), QStringLiteral("P"), 285},
+               {tr("Status"), QStringLiteral("S"), 171},
+               {tr("Customer"), QStringLiteral("C"), 342}});
 }
 
 void frmIssueList::setSearchWhat(bool shortDesc, bool desc, bool resolution)

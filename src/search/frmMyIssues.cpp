@@ -49,10 +49,10 @@ void frmMyIssues::setUpList()
     setUpHits({ui->lv, ui->lblCust, ui->cmdProperties, ui->cmdRefresh, ui->cmdPrint,
                ui->CancelButton, tr(" Issue(s)")},
               {{tr("Priority"), QStringLiteral("R"), 90},
-               {tr("Status"), QStringLiteral("U"), 120},
+               {tr("Status"), QStringLiteral("U"), 150},
                {tr("Submit"), QStringLiteral("T"), 90},
-               {tr("Customer"), QStringLiteral("C"), 220},
-               {tr("Short Description"), QStringLiteral("D"), 280},
+               {tr("Customer"), QStringLiteral("C"), 240},
+               {tr("Short Description"), QStringLiteral("D"), 330},
                {tr("Product/Service"), QStringLiteral("P"), 180},
                {tr("Date Sorting"), QStringLiteral("-"), 0, true}});
     ui->lv->setSortSubstitute(SubmitColumn, DateSortColumn);

@@ -39,7 +39,7 @@ TextOrder::TextOrder()
     Place place;
     QChar before;
     for (const QChar c : all) {
-        const bool ignored = collator.compare(QString(c), QString()) == 0;
+        const bool ignored = collator.compare(QString(QString(u'a') + c), QString(u'a')) == 0;
         const bool same = !before.isNull() && collator.compare(QString(before), QString(c)) == 0;
         // Two that differ in their accents only: what follows them weighs more.
         const bool sameLetter =
