@@ -13,17 +13,6 @@ const QString RowidTag = QStringLiteral("rowid");
 const QString CustomerTag = QStringLiteral("custid");
 const QString ProductField = QStringLiteral("psid");
 
-QString fullName(const TableUse &customers)
-{
-    return clsSystem::MakeFullName(customers.text(QStringLiteral("firstname")),
-                                   customers.text(QStringLiteral("lastname")));
-}
-
-QString companyAndName(const TableUse &customers)
-{
-    return CustomerNames::composed(customers.text(QStringLiteral("company")), fullName(customers));
-}
-
 } // namespace
 
 bool clsDB::CustomerNameAlone()
@@ -47,16 +36,8 @@ QString clsDB::GetCustomerDetail(qint32 custid, Handle customers, Handle categor
         TableUse rows(*this, CustomerTable(), customers);
         if (!rows)
             return QString();
-        rows.select(RowidTag);
-        if (!rows.seek(custid))
-            return QString();
-        QStringList parts{companyAndName(rows), rows.text(QStringLiteral("city"))};
-        const qint32 state = rows.number(QStringLiteral("state"));
-        if (state > 0)
-            parts.append(GetCategoryDesc(state, categories));
-        parts.append(rows.text(QStringLiteral("workphone")));
-        parts.removeAll(QString());
-        return parts.join(u", ");
+        CategoryNames names(*this, categories);
+        return CustomerDetails(rows.handle(), names).of(custid);
     });
 }
 

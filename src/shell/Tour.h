@@ -50,6 +50,7 @@ private:
     void closeIssue(frmIssue *form);
     void findIssue();
     void seeMyIssues();
+    void showReports(); // TourReports.cpp
     void seeSecondStation();
     void extendList(); // these three: TourOffice.cpp
     void addUser();

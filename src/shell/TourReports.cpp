@@ -1,5 +1,8 @@
-// The step of the tour that makes a report.
+// The steps of the tour that make a report, and show some.
+#include "common/ui/Switchboard.h"
+#include "reports/frmProductReportDisplay.h"
 #include "reports/frmReportDef.h"
+#include "reports/frmReportDisplay.h"
 #include "reports/frmReportList.h"
 #include "shell/TourHands.h"
 
@@ -12,6 +15,7 @@
 namespace
 {
 
+constexpr qint32 contactList = 101; // of data/seed/reports.csv
 const QString title = QStringLiteral("Customers in Oregon");
 
 } // namespace
@@ -51,4 +55,31 @@ void Tour::makeReport()
          QStringLiteral("the report does not find the customer"));
     shoot(QStringLiteral("reports-with-new-one"));
     list->close();
+}
+
+void Tour::showReports()
+{
+    switchboard().ShowReport(contactList);
+    auto *report = newestForm<frmReportDisplay>();
+    need(!report->report().rows.empty(), QStringLiteral("the report is empty"));
+    shoot(QStringLiteral("report"));
+    m_visitor->expect(QStringLiteral("frmPreview"), [this](QWidget *preview) {
+        settle();
+        shoot(QStringLiteral("report-preview"));
+        preview->close();
+    });
+    control<QPushButton>(report, "cmdPrint")->click();
+    m_visitor->check();
+    report->close();
+
+    m_visitor->expect(QStringLiteral("frmPSFilterDlg"), [this](QWidget *criteria) {
+        shoot(QStringLiteral("product-report-criteria"));
+        hands::pressOk(criteria);
+    });
+    switchboard().ShowProductReport();
+    m_visitor->check();
+    auto *products = newestForm<frmProductReportDisplay>();
+    need(!products->report().rows.empty(), QStringLiteral("the product report is empty"));
+    shoot(QStringLiteral("product-report"));
+    products->close();
 }

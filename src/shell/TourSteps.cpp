@@ -53,6 +53,8 @@ void Tour::allSteps()
          [this] { workOnIssue(); });
     step(QStringLiteral("Find the issue by words of its texts"), [this] { findIssue(); });
     step(QStringLiteral("Look at one's own issues"), [this] { seeMyIssues(); });
+    step(QStringLiteral("Show a report, its pages, and what customers hold"),
+         [this] { showReports(); });
     step(QStringLiteral("See what the second workstation changed"), [this] { seeSecondStation(); });
     step(QStringLiteral("Add an entry to a lookup list"), [this] { extendList(); });
     step(QStringLiteral("Give a colleague a login"), [this] { addUser(); });

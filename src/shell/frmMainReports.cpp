@@ -3,7 +3,10 @@
 
 #include "common/ui/FormWindow.h"
 #include "db/clsDB.h"
+#include "reports/frmProductReportDisplay.h"
+#include "reports/frmPSFilterDlg.h"
 #include "reports/frmReportDef.h"
+#include "reports/frmReportDisplay.h"
 #include "reports/frmReportList.h"
 
 namespace
@@ -51,6 +54,28 @@ void frmMain::NotifyReportList(qint32 rowid)
         list->LoadData(rowid);
 }
 
-void frmMain::ShowReport(qint32 /*rowid*/) {}
+// The window is there before the report runs, so that it is found when it is asked for once more.
+void frmMain::ShowReport(qint32 rowid)
+{
+    const QString tag = frmReportDisplay::tagOf(rowid);
+    if (IsFormLoaded(tag)) {
+        BringFormToTop(tag);
+        return;
+    }
+    if (!reportExists(rowid))
+        return;
+    auto *form = new frmReportDisplay;
+    form->setTagText(tag);
+    showChild(form);
+    form->Init(rowid);
+}
 
-void frmMain::ShowProductReport() {}
+void frmMain::ShowProductReport()
+{
+    frmPSFilterDlg dialog(this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    auto *form = new frmProductReportDisplay;
+    showChild(form);
+    form->Init(dialog.criteria());
+}

@@ -25,7 +25,10 @@
 #include "forms/frmIssueTemplate.h"
 #include "forms/frmPS.h"
 #include "forms/frmSelectIssueTemplate.h"
+#include "reports/frmProductReportDisplay.h"
+#include "reports/frmPSFilterDlg.h"
 #include "reports/frmReportDef.h"
+#include "reports/frmReportDisplay.h"
 #include "reports/frmReportList.h"
 #include "reports/frmRptDisplayColumns.h"
 #include "reports/frmRptFilterColumns.h"
@@ -200,6 +203,9 @@ TEST_F(MainWindow, EveryWindowCanBeReadAloudAndHasKeysOfOneMeaning)
         {"frmOptions", plain<frmOptions>()},
         {"frmPreferences", plain<frmPreferences>()},
         {"frmProgress", plain<frmProgress>()},
+        {"frmProductReportDisplay", plain<frmProductReportDisplay>()},
+        {"frmPSFilterDlg", plain<frmPSFilterDlg>()},
+        {"frmReportDisplay", plain<frmReportDisplay>()},
         {"frmRichEdit", plain<frmRichEdit>()},
         {"frmSplash", plain<frmSplash>()},
         {"frmTip", plain<frmTip>()},

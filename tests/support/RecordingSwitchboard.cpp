@@ -89,7 +89,7 @@ QString RecordingSwitchboard::GetShortDateFromPopupCalendar(const QString &start
 bool RecordingSwitchboard::SendMail(const QString &to, const QString &subject, const QString &body)
 {
     m_mails.append({to, subject, body});
-    return true;
+    return sends;
 }
 
 void RecordingSwitchboard::showChild(QWidget *form)

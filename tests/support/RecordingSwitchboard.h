@@ -38,6 +38,8 @@ public:
     std::function<void(qint32 type)> onEditCategory;
     // The template that is chosen for every new issue; nothing: the choice is cancelled.
     std::optional<qint32> chosenTemplate;
+    // Whether a mail program takes what is sent.
+    bool sends = true;
     // The date that is picked from every calendar.
     QString pickedDate;
 

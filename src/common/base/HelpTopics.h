@@ -29,6 +29,7 @@ enum Topic {
     EmailOptions = 1360,
     ReportList = 1390,
     ReportDefinition = 1400,
+    ReportDisplay = 1410,
     Printing = 1600,
     Keyboard = 1610
 };

@@ -14,7 +14,8 @@ void GridSelectRow(Grid *grid, int row)
     grid->scrollTo(index);
 }
 
-bool GridFind(Grid *grid, const frmFind::Request &request, int fromRow)
+FoundCell FindCell(int rows, int columns, const std::function<QString(int row, int column)> &text,
+                   const frmFind::Request &request, int fromRow)
 {
     const Qt::CaseSensitivity cases = request.matchCase ? Qt::CaseSensitive : Qt::CaseInsensitive;
     const QString trimmed = clsSystem::Trim(request.text);
@@ -23,11 +24,18 @@ bool GridFind(Grid *grid, const frmFind::Request &request, int fromRow)
                                      : cell.contains(request.text, cases);
     };
     const int step = request.directionUp ? -1 : 1;
-    for (int row = fromRow + step; row >= 1 && row <= grid->rows(); row += step)
-        for (int column = 1; column <= grid->columns(); ++column)
-            if (matches(grid->text(row, column))) {
-                GridSelectRow(grid, row);
-                return true;
-            }
-    return false;
+    for (int row = fromRow + step; row >= 1 && row <= rows; row += step)
+        for (int column = 1; column <= columns; ++column)
+            if (matches(text(row, column)))
+                return {row, column};
+    return {};
+}
+
+bool GridFind(Grid *grid, const frmFind::Request &request, int fromRow)
+{
+    const FoundCell found = FindCell(
+        grid->rows(), grid->columns(),
+        [grid](int row, int column) { return grid->text(row, column); }, request, fromRow);
+    GridSelectRow(grid, found.row);
+    return found.row > 0;
 }

@@ -3,6 +3,8 @@
 
 #include "common/ui/frmFind.h"
 
+#include <functional>
+
 class Grid;
 
 // Makes the row current and scrolls to it, when the grid has it.
@@ -11,3 +13,11 @@ void GridSelectRow(Grid *grid, int row);
 // makes the first row with the text in one of its cells current. A whole cell is compared without
 // the blanks around it. False: no row has the text.
 bool GridFind(Grid *grid, const frmFind::Request &request, int fromRow);
+// Row 0: nowhere.
+struct FoundCell {
+    int row = 0;
+    int column = 0;
+};
+// The same search over any texts; both rows and columns count from 1.
+FoundCell FindCell(int rows, int columns, const std::function<QString(int row, int column)> &text,
+                   const frmFind::Request &request, int fromRow);

@@ -31,18 +31,35 @@ int sum(const QList<int> &widths)
     return std::accumulate(widths.begin(), widths.end(), 0);
 }
 
-// One list on one device.
-class ListPrinter
+QString headingOf(const ListView &lv, int column)
+{
+    return lv.model()->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+}
+
+PrintedTable printed(const ListView &lv)
+{
+    PrintedTable table{.headings = {},
+                       .widths = columnWidths(lv),
+                       .rows = lv.itemCount(),
+                       .text = [&lv](int row, int column) { return lv.itemText(row, column); },
+                       .font = lv.font()};
+    for (int column = 0; column < table.widths.size(); ++column)
+        table.headings.append(headingOf(lv, column));
+    return table;
+}
+
+// One table on one device.
+class TablePrinter
 {
 public:
-    ListPrinter(const ListView &lv, QPagedPaintDevice &device, const QMarginsF &margins,
-                const QString &title)
-        : m_lv(lv),
+    TablePrinter(const PrintedTable &table, QPagedPaintDevice &device, const QMarginsF &margins,
+                 const QString &title)
+        : m_table(table),
           m_pages(device),
           m_margins(margins),
           m_title(title),
-          m_font(lv.font()),
-          m_headingFont(bold(lv.font()))
+          m_font(table.font),
+          m_headingFont(bold(table.font))
     {
         placeColumns();
         const qreal usable = m_pages.height() - margins.top() - margins.bottom();
@@ -52,7 +69,7 @@ public:
     // False when the person gave up.
     bool run()
     {
-        const int rows = m_lv.itemCount();
+        const int rows = m_table.rows;
         const int pages = (rows + m_linesOnPage - 1) / m_linesOnPage;
         PrintProgress progress(pages);
         for (int page = 1; page <= pages; ++page) {
@@ -84,7 +101,7 @@ private:
     // All shown columns fill the usable width, in the proportions of the screen.
     void placeColumns()
     {
-        const QList<int> widths = columnWidths(m_lv);
+        const QList<int> &widths = m_table.widths;
         const qreal usable = m_pages.width() - m_margins.left() - m_margins.right();
         const qreal scale = std::max<qreal>(usable, 0) / std::max(1, sum(widths));
         qreal left = m_margins.left();
@@ -110,7 +127,7 @@ private:
         heading();
         for (int row = firstRow; row < endRow; ++row)
             rowOfTexts(row - firstRow + 1, m_font,
-                       [this, row](int column) { return m_lv.itemText(row, column); });
+                       [this, row](int column) { return m_table.text(row, column); });
         footer(page);
     }
 
@@ -121,10 +138,7 @@ private:
             const qreal left = (m_pages.width() - m_headingFont.width(title)) / 2;
             m_pages.text(std::max<qreal>(left, 0), m_margins.top() / 4, m_headingFont, title);
         }
-        const QAbstractItemModel *model = m_lv.model();
-        rowOfTexts(0, m_headingFont, [&](int column) {
-            return model->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
-        });
+        rowOfTexts(0, m_headingFont, [this](int column) { return m_table.headings.value(column); });
         const qreal below = m_margins.top() + m_font.lineHeight();
         m_pages.painter().setPen(QPen(Qt::black, 0)); // as thin as the device has
         m_pages.painter().drawLine(QPointF(m_margins.left(), below),
@@ -139,7 +153,7 @@ private:
         m_pages.text(m_pages.width() / 2, std::min(wanted, lowest), m_font, QString::number(page));
     }
 
-    const ListView &m_lv;
+    const PrintedTable &m_table;
     PrintPages m_pages;
     const QMarginsF m_margins;
     const QString m_title;
@@ -151,15 +165,21 @@ private:
 
 } // namespace
 
+bool TablePrint(const PrintedTable &table, QPagedPaintDevice &device, int left, int top, int right,
+                int bottom, const QString &title)
+{
+    return guarded("clsSystem_ListViewPrint", false, [&] {
+        if (table.rows == 0)
+            return true;
+        const Hourglass hourglass;
+        return TablePrinter(table, device, QMarginsF(left, top, right, bottom), title).run();
+    });
+}
+
 bool ListViewPrint(const ListView &lv, QPagedPaintDevice &device, int left, int top, int right,
                    int bottom, const QString &title)
 {
-    return guarded("clsSystem_ListViewPrint", false, [&] {
-        if (lv.itemCount() == 0)
-            return true;
-        const Hourglass hourglass;
-        return ListPrinter(lv, device, QMarginsF(left, top, right, bottom), title).run();
-    });
+    return TablePrint(printed(lv), device, left, top, right, bottom, title);
 }
 
 void ListViewPrint_GetPrinter(const ListView &lv, const QString &title)
@@ -187,9 +207,7 @@ QString LVContent(const ListView &lv)
         }
         return line;
     };
-    const QString headings = lineOf([&lv](int column) {
-        return lv.model()->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
-    });
+    const QString headings = lineOf([&lv](int column) { return headingOf(lv, column); });
     QString text = headings + QLatin1String("\n\n") + QString(headings.size(), u'-') + u'\n';
     for (int row = 0; row < lv.itemCount(); ++row)
         text += lineOf([&lv, row](int column) { return lv.itemText(row, column); }) + u'\n';

@@ -2,7 +2,12 @@
 // of what the printer can print on.
 #pragma once
 
+#include <QFont>
+#include <QList>
 #include <QString>
+#include <QStringList>
+
+#include <functional>
 
 class ListView;
 class QPagedPaintDevice;
@@ -16,6 +21,18 @@ void ListViewPrint_GetPrinter(const ListView &lv, const QString &title);
 // the person cancelled.
 bool ListViewPrint(const ListView &lv, QPagedPaintDevice &device, int left, int top, int right,
                    int bottom, const QString &title);
+
+// A table of texts as it goes on paper, whatever shows it on the screen.
+struct PrintedTable {
+    QStringList headings; // one a column
+    QList<int> widths;    // of the columns in their proportions; 0: not printed
+    int rows = 0;
+    std::function<QString(int row, int column)> text; // both from 0
+    QFont font;
+};
+// As ListViewPrint prints a list.
+bool TablePrint(const PrintedTable &table, QPagedPaintDevice &device, int left, int top, int right,
+                int bottom, const QString &title);
 
 // The list as text in fixed-pitch columns, 80 characters in all, for mail and files.
 QString LVContent(const ListView &lv);

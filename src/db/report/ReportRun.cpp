@@ -6,6 +6,7 @@
 #include "common/base/Prompts.h"
 #include "db/CustomerLists.h"
 #include "db/FieldText.h"
+#include "db/search/ShownNames.h"
 #include "db/TableUse.h"
 
 #include <QHash>
@@ -35,16 +36,18 @@ QString fileOf(schema::Table table)
 class ReportRun::Tables
 {
 public:
-    explicit Tables(const QString &type) : main(type == u"C" ? customers : issues) {}
+    explicit Tables(const QString &type)
+        : main(gDB, type == u"C" ? gDB.CustomerTable() : gDB.IssuesTable())
+    {
+    }
 
-    bool allOpen() const { return issues && customers && users && categories && subscriptions; }
+    bool allOpen() const { return main && customers && users && categories && subscriptions; }
 
-    TableUse issues{gDB, gDB.IssuesTable()};
+    TableUse main; // whose records are walked; no look-up moves it
     TableUse customers{gDB, gDB.CustomerTable()};
     TableUse users{gDB, gDB.UserTable()};
     TableUse categories{gDB, gDB.CategoryTable()};
     TableUse subscriptions{gDB, gDB.Customers2PSTable()};
-    TableUse &main; // whose records are walked
 };
 
 // What a record must be to be shown.
@@ -111,22 +114,22 @@ private:
 
     bool addSource(const clsRepDispCol &column, const QString &mainFile);
     QString text(const Source &source, qint32 rowid);
-    // What `make` gives for the number, asked once for each.
-    template <class Make>
-    static const QString &once(QHash<qint32, QString> &known, qint32 number, Make &&make);
+    const QString &user(qint32 rowid);
 
     Tables &m_tables;
     std::vector<Source> m_sources;
     bool m_numbered;
     CategoryNames m_categories;
-    QHash<qint32, QString> m_customers, m_users;
+    CustomerDetails m_customers;
+    QHash<qint32, QString> m_users;
     QHash<QString, QString> m_dates;
 };
 
 ReportRun::Cells::Cells(Tables &tables, const QString &type, const clsRepDefParser &definition)
     : m_tables(tables),
       m_numbered(definition.m_bShowRowNum),
-      m_categories(gDB, tables.categories.handle())
+      m_categories(gDB, tables.categories.handle()),
+      m_customers(tables.customers.handle(), m_categories)
 {
     const QString mainFile = fileOf(type == u"C" ? schema::Table::Customer : schema::Table::Issues);
     for (const clsRepDispCol &column : definition.m_RptCols) {
@@ -161,13 +164,12 @@ QStringList ReportRun::Cells::of(qint32 rowid)
     return cells;
 }
 
-template <class Make>
-const QString &ReportRun::Cells::once(QHash<qint32, QString> &known, qint32 number, Make &&make)
+const QString &ReportRun::Cells::user(qint32 rowid)
 {
-    auto found = known.constFind(number);
-    if (found == known.constEnd())
-        found = known.insert(number, make(number));
-    return *found;
+    auto known = m_users.constFind(rowid);
+    if (known == m_users.constEnd())
+        known = m_users.insert(rowid, gDB.GetUsername2(rowid, m_tables.users.handle()));
+    return *known;
 }
 
 QString ReportRun::Cells::text(const Source &source, qint32 rowid)
@@ -191,14 +193,9 @@ QString ReportRun::Cells::text(const Source &source, qint32 rowid)
     case u'L':
         return m_categories.of(f4long(source.field));
     case u'C':
-        return once(m_customers, f4long(source.field), [this](qint32 custid) {
-            return gDB.GetCustomerDetail(custid, m_tables.customers.handle(),
-                                         m_tables.categories.handle());
-        });
+        return m_customers.of(f4long(source.field));
     case u'U':
-        return once(m_users, f4long(source.field), [this](qint32 user) {
-            return gDB.GetUsername2(user, m_tables.users.handle());
-        });
+        return user(f4long(source.field));
     default:
         return {};
     }

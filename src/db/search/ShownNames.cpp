@@ -52,8 +52,14 @@ bool CustomerNames::find(qint32 custid)
 
 QString CustomerNames::nameHere() const
 {
-    const QString name = clsSystem::MakeFullName(trimmedText(m_firstname), trimmedText(m_lastname));
-    return m_nameAlone ? name : composed(trimmedText(m_company), name);
+    return m_nameAlone ? clsSystem::MakeFullName(trimmedText(m_firstname), trimmedText(m_lastname))
+                       : companyAndName();
+}
+
+QString CustomerNames::companyAndName() const
+{
+    return composed(trimmedText(m_company),
+                    clsSystem::MakeFullName(trimmedText(m_firstname), trimmedText(m_lastname)));
 }
 
 QString CustomerNames::composed(const QString &company, const QString &name)
@@ -61,4 +67,31 @@ QString CustomerNames::composed(const QString &company, const QString &name)
     if (company.isEmpty())
         return name;
     return name.isEmpty() ? company : QString(company % u" (" % name % u')');
+}
+
+CustomerDetails::CustomerDetails(clsDB::Handle customers, CategoryNames &entries)
+    : CustomerNames(customers, false),
+      m_entries(entries),
+      m_city(d4field(customers, "city")),
+      m_state(d4field(customers, "state")),
+      m_phone(d4field(customers, "workphone"))
+{
+}
+
+const QString &CustomerDetails::of(qint32 custid)
+{
+    auto known = m_known.constFind(custid);
+    if (known == m_known.constEnd())
+        known = m_known.insert(custid, find(custid) ? detailHere() : QString());
+    return *known;
+}
+
+QString CustomerDetails::detailHere()
+{
+    QStringList parts{companyAndName(), trimmedText(m_city)};
+    if (const qint32 state = f4long(m_state); state > 0)
+        parts.append(m_entries.of(state));
+    parts.append(trimmedText(m_phone));
+    parts.removeAll(QString());
+    return parts.join(u", ");
 }
