@@ -22,6 +22,13 @@ QString IssueTables::shortDate(const QString &stored)
     return shown;
 }
 
+void IssueTables::forgetNames()
+{
+    m_customerNames.reset();
+    m_categoryNames.reset();
+    m_dates = {};
+}
+
 QString IssueTables::itemKey(const IssueHit &hit)
 {
     return u'N' + QString::number(hit.rowid);

@@ -22,6 +22,9 @@ public:
     // As lists show it; the same days come again and again.
     QString shortDate(const QString &stored);
 
+    // Once the rows have them, while there is other work to do with them.
+    void forgetNames();
+
     static QString itemKey(const IssueHit &hit);
     static QString text(std::string_view stored);
 

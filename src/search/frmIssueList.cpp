@@ -70,6 +70,7 @@ QString frmIssueList::LoadIssues(IssueTables &tables)
         [&loading] { return loading.goOn(); });
     m_unreadable = search.unreadable();
     setWindowTitle(tr("Issues (Search ='") + m_query.text + u"') @" + clsSystem::CurrTimeAMPM());
+    tables.forgetNames();
     return whole ? tr("No issue matches this search.") : tr("The search was cancelled.");
 }
 

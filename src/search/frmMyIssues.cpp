@@ -137,6 +137,7 @@ QString frmMyIssues::LoadIssues(IssueTables &tables, bool bAutoRefresh)
     setWindowTitle(tr("My Issues (Assigned to: ") + ui->cboAssignedTo->currentText() +
                    tr(", Status ='") + ui->cboStatus->currentText() + u"') @" +
                    clsSystem::CurrTimeAMPM());
+    tables.forgetNames();
     return whole ? tr("No issue is assigned like this.") : tr("The list was cancelled.");
 }
 

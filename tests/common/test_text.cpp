@@ -154,6 +154,27 @@ TEST(Text, EveryByteSurvivesTheWayInAndOut)
     EXPECT_EQ("€ ‘ ’ “ ” – — ™ Ÿ", fromAnsi("\x80 \x91 \x92 \x93 \x94 \x96 \x97 \x99 \x9F"));
 }
 
+TEST(Text, FoldsLongTextsAsItFoldsEachByte)
+{
+    const std::string letters = "aZ @[`{z\x9A\xE9\xF7\xFF\xDF";
+    for (std::size_t seed = 0; seed < 40; ++seed) {
+        for (std::size_t length = 0; length < 50; ++length) {
+            std::string text;
+            std::string expected;
+            for (std::size_t at = 0; at < length; ++at) {
+                // Some have nothing but ASCII in them.
+                text += letters[(seed * 7 + at * at) % (seed % 2 == 0 ? letters.size() : 8)];
+                char folded = 0;
+                foldAnsi({&text[at], 1}, &folded);
+                expected += folded;
+            }
+            std::string folded(length, '?');
+            foldAnsi(text, folded.data());
+            EXPECT_EQ(folded, expected);
+        }
+    }
+}
+
 TEST(Text, ACharacterWithoutAnEightBitFormIsOneQuestionMark)
 {
     EXPECT_EQ("?a?", toAnsi("漢a😀"));

@@ -1,6 +1,9 @@
 #include "common/base/Ansi.h"
 
+#include <algorithm>
 #include <array>
+#include <cstdint>
+#include <cstring>
 
 namespace
 {
@@ -45,13 +48,40 @@ std::array<char, 256> makeUpper()
     return upper;
 }
 
+// Most text is ASCII, and of that a processor folds so many bytes in a few steps.
+constexpr std::size_t FoldedAtOnce = 16;
+
+// False when there is another character among them; nothing is written then.
+bool foldPlain(const char *in, char *out)
+{
+    std::array<std::uint8_t, FoldedAtOnce> bytes{};
+    std::memcpy(bytes.data(), in, FoldedAtOnce);
+    std::uint8_t all = 0;
+    for (const std::uint8_t byte : bytes)
+        all |= byte;
+    if (all >= FirstSpecial)
+        return false;
+    for (std::uint8_t &byte : bytes) {
+        const bool small = static_cast<std::uint8_t>(byte - 'a') < 26;
+        byte = static_cast<std::uint8_t>(byte - (small ? 'a' - 'A' : 0));
+    }
+    std::memcpy(out, bytes.data(), FoldedAtOnce);
+    return true;
+}
+
 } // namespace
 
 void foldAnsi(std::string_view bytes, char *out)
 {
     static const std::array<char, 256> upper = makeUpper();
-    for (const char byte : bytes)
-        *out++ = upper[static_cast<unsigned char>(byte)];
+    while (!bytes.empty()) {
+        const std::string_view block = bytes.substr(0, FoldedAtOnce);
+        if (block.size() < FoldedAtOnce || !foldPlain(block.data(), out))
+            std::transform(block.begin(), block.end(), out,
+                           [](char byte) { return upper[static_cast<unsigned char>(byte)]; });
+        out += block.size();
+        bytes.remove_prefix(block.size());
+    }
 }
 
 QByteArray toAnsi(const QString &text)

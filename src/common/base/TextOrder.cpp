@@ -10,8 +10,8 @@
 namespace
 {
 
-constexpr char Unplaced = '\xFF'; // behind all letters
-constexpr char EndOfLetters = '\0';
+constexpr char Unplaced = '\xFF';   // behind all letters
+constexpr char EndOfLetters = '\1'; // before all letters
 
 // Every character that can be stored, in lower case.
 std::vector<QChar> storedCharacters()
@@ -36,7 +36,7 @@ TextOrder::TextOrder()
     std::stable_sort(all.begin(), all.end(), [&collator](QChar a, QChar b) {
         return collator.compare(QString(a), QString(b)) < 0;
     });
-    Place place;
+    Place place{EndOfLetters};
     QChar before;
     for (const QChar c : all) {
         const bool ignored = collator.compare(QString(QString(u'a') + c), QString(u'a')) == 0;

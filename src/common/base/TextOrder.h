@@ -14,13 +14,14 @@ public:
     // they stay two.
     TextOrder();
 
-    // Bytes that compare as the texts do. Accents count only between texts of the same letters.
+    // Bytes that compare as the texts do, none of them 0. Accents count only between texts of the
+    // same letters.
     void appendKey(QStringView text, std::string &key) const;
     std::string key(QStringView text) const;
 
 private:
     struct Place {
-        std::uint8_t letter = 0; // from 1 on; 0: none of its own
+        std::uint8_t letter = 0; // from 2 on; 0: none of its own
         std::uint8_t accent = 0;
         bool ignored = false;
     };

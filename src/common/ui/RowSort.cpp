@@ -3,6 +3,7 @@
 #include "common/base/TextOrder.h"
 
 #include <algorithm>
+#include <limits>
 #include <string>
 
 namespace
@@ -10,6 +11,7 @@ namespace
 
 constexpr int StepsBetweenQuestions = 1 << 14;
 constexpr int Sample = 1000; // rows
+constexpr char EndOfKey = '\0';
 
 class RowSort
 {
@@ -20,21 +22,23 @@ public:
     {
         const auto count = static_cast<std::size_t>(rows.count());
         m_items.reserve(count);
-        m_starts.reserve(count + 1);
         for (int row = 0; row < rows.count(); ++row) {
             step();
-            m_items.push_back({0, static_cast<std::uint32_t>(row)});
-            m_starts.push_back(m_keys.size());
+            m_items.push_back(
+                {0, static_cast<std::uint32_t>(row), static_cast<std::uint32_t>(m_keys.size())});
             texts.appendKey(rows.text(row, column), m_keys);
+            m_keys += EndOfKey;
             if (row == Sample) // growing by halves would take twice the memory for a moment
                 m_keys.reserve(m_keys.size() / Sample * count * 9 / 8);
         }
-        m_starts.push_back(m_keys.size());
+        if (m_keys.size() > std::numeric_limits<std::uint32_t>::max())
+            throw Stopped(); // far beyond what a table can hold
     }
 
     std::vector<std::uint32_t> run()
     {
         sortFrom(m_items.begin(), m_items.end(), 0);
+        m_keys = std::string();
         std::vector<std::uint32_t> rows;
         rows.reserve(m_items.size());
         for (const Item &item : m_items)
@@ -49,6 +53,7 @@ private:
     struct Item {
         std::uint64_t piece; // of the row's key
         std::uint32_t row;
+        std::uint32_t key; // where it begins
     };
     using Place = std::vector<Item>::iterator;
     static constexpr std::size_t PieceBytes = sizeof(std::uint64_t);
@@ -59,19 +64,18 @@ private:
             throw Stopped();
     }
 
-    std::uint64_t pieceOf(std::uint32_t row, std::size_t at) const
+    // Padded with 0 behind the end of the key.
+    std::uint64_t pieceOf(const Item &item, std::size_t at) const
     {
-        const std::size_t begin = m_starts[row] + at;
-        const std::size_t end = std::min(begin + PieceBytes, m_starts[row + 1]);
+        const char *byte = m_keys.data() + item.key + at;
         std::uint64_t piece = 0;
-        for (std::size_t byte = begin; byte < end; ++byte)
-            piece = piece << 8U | static_cast<unsigned char>(m_keys[byte]);
-        return begin < end ? piece << 8U * (PieceBytes - (end - begin)) : 0;
+        for (std::size_t left = PieceBytes; left > 0; --left) {
+            piece = piece << 8U | static_cast<unsigned char>(*byte);
+            byte += *byte == EndOfKey ? 0 : 1;
+        }
+        return piece;
     }
-    bool hasMore(std::uint32_t row, std::size_t at) const
-    {
-        return m_starts[row + 1] - m_starts[row] > at;
-    }
+    static bool endsIn(std::uint64_t piece) { return (piece & 0xFFU) == 0; }
 
     // Eight bytes of the keys at a time, kept beside the rows: comparing jumps nowhere. Rows with
     // the same eight are then sorted by what follows.
@@ -79,7 +83,7 @@ private:
     {
         for (Place item = first; item != last; ++item) {
             step();
-            item->piece = pieceOf(item->row, at);
+            item->piece = pieceOf(*item, at);
         }
         std::sort(first, last, [this](const Item &a, const Item &b) {
             step();
@@ -87,24 +91,20 @@ private:
                 return m_descending ? a.piece > b.piece : a.piece < b.piece;
             return a.row < b.row;
         });
-        const std::size_t next = at + PieceBytes;
         while (first != last) {
             const Place end = std::find_if(first, last, [piece = first->piece](const Item &item) {
                 return item.piece != piece;
             });
-            const bool more = std::any_of(
-                first, end, [this, next](const Item &item) { return hasMore(item.row, next); });
-            if (end - first > 1 && more)
-                sortFrom(first, end, next);
+            if (end - first > 1 && !endsIn(first->piece))
+                sortFrom(first, end, at + PieceBytes);
             first = end;
         }
     }
 
     const bool m_descending;
     const std::function<bool()> &m_goOn;
-    int m_steps = 0;
+    unsigned m_steps = 0;
     std::string m_keys; // side by side
-    std::vector<std::size_t> m_starts;
     std::vector<Item> m_items;
 };
 
