@@ -255,13 +255,14 @@ TEST_F(ReportDisplay, TheFindBoxIsNamedAfterTheReportAndGoesWithIt)
     addFour();
     open(definition(LastNameCityState));
     QTest::keyClick(form.get(), Qt::Key_F, Qt::ControlModifier);
-    QPointer<frmFind> box = form->findChild<frmFind *>();
-    ASSERT_TRUE(box);
+    auto *box = form->findChild<frmFind *>();
+    ASSERT_NE(nullptr, box);
     EXPECT_EQ(box->windowTitle(), "Find in Who is where");
     EXPECT_TRUE(box->isVisible());
     QTest::keyClicks(box->findChild<QLineEdit *>(u"textFind"_s), u"dahl"_s);
     button(*box, "OKButton")->click();
     EXPECT_EQ(selectedRow(), 3);
+    const QPointer<frmFind> gone(box);
     form.reset();
-    EXPECT_FALSE(box);
+    EXPECT_TRUE(gone.isNull());
 }
