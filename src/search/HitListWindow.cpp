@@ -55,7 +55,7 @@ void HitListWindow::load(const char *procedure, Order order, const std::function
     guarded(procedure, [&] { whyEmpty = read(); });
     if (order == Order::ByFirstColumn)
         list->sortBy(0, Qt::AscendingOrder);
-    list->endLoad();
+    list->endLoad(order == Order::AsItIsQuietly);
     list->setEmptyText(whyEmpty);
     if (!LvSelectItem(list, selected))
         LvSelectFirstItem(list);

@@ -27,7 +27,7 @@ protected:
         QPushButton *cmdProperties, *cmdRefresh, *cmdPrint, *cmdClose;
         QString unit;
     };
-    enum class Order { ByFirstColumn, AsItIs };
+    enum class Order { ByFirstColumn, AsItIs, AsItIsQuietly };
 
     explicit HitListWindow(QWidget *parent);
     void setUpHits(const Parts &parts, const QList<ListView::Column> &columns);
@@ -39,7 +39,8 @@ protected:
     // Window events run during a load; a second one must not begin inside the first.
     bool isLoading() const { return m_loading; }
     // Empties the list, lets `read` add the hits, and selects what was selected before, else the
-    // first. `read` gives the sentence for a list that stays empty. Nothing while loading.
+    // first. `read` gives the sentence for a list that stays empty. Quietly means that no dialog
+    // comes up for a long sort. Nothing while loading.
     void load(const char *procedure, Order order, const std::function<QString()> &read);
     void DisplayResultCnt();
 

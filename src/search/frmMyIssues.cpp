@@ -117,7 +117,8 @@ void frmMyIssues::LoadData(bool bAutoRefresh)
     IssueTables tables;
     if (tables)
         m_toldOnce.reset();
-    load("frmMyIssues_LoadIssues", Order::AsItIs, [&] { return LoadIssues(tables, bAutoRefresh); });
+    load("frmMyIssues_LoadIssues", bAutoRefresh ? Order::AsItIsQuietly : Order::AsItIs,
+         [&] { return LoadIssues(tables, bAutoRefresh); });
     if (bAutoRefresh)
         ui->lv->verticalScrollBar()->setValue(scrolledTo);
 }

@@ -427,6 +427,14 @@ TEST_F(CancelledSort, ShowsWhatWasLoadedAsItCame)
     EXPECT_TRUE(m_list.isEnabled());
 }
 
+TEST_F(CancelledSort, DoesNotComeWhenTheLoadIsQuiet)
+{
+    m_list.sortBy(0, Qt::AscendingOrder);
+    m_list.endLoad(true);
+    EXPECT_EQ(m_asked, 0);
+    EXPECT_EQ(m_list.itemText(rows - 1, 0), QStringLiteral("99999"));
+}
+
 TEST_F(CancelledSort, LeavesAListThatIsShownAsItWas)
 {
     m_list.endLoad();

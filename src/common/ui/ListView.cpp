@@ -112,12 +112,12 @@ void ListView::addItems(const QList<Row> &rows)
     for (const Row &row : rows)
         m_model->addWaiting(row.key, row.texts);
     if (m_loads == 0)
-        showWaiting();
+        showWaiting(false);
 }
 
-void ListView::showWaiting()
+void ListView::showWaiting(bool quietly)
 {
-    LongSort sort(this, m_model->countWithWaiting());
+    LongSort sort(this, quietly ? 0 : m_model->countWithWaiting());
     m_model->showWaiting([&sort] { return sort.goOn(); });
     showSortIndicator();
 }
@@ -157,11 +157,11 @@ void ListView::beginLoad()
         setUpdatesEnabled(false);
 }
 
-void ListView::endLoad()
+void ListView::endLoad(bool quietly)
 {
     if (m_loads == 0 || --m_loads > 0)
         return;
-    showWaiting();
+    showWaiting(quietly);
     setUpdatesEnabled(true);
 }
 

@@ -48,8 +48,9 @@ public:
 
     // Between these two nothing is drawn or sorted; rows added wait and are shown together. A long
     // list is sorted under a wait dialog: when that is cancelled, it is not sorted any more.
+    // Quietly means without a dialog.
     void beginLoad();
-    void endLoad();
+    void endLoad(bool quietly = false);
 
     // The same wait dialog; when it is cancelled the list stays as it is.
     void sortBy(int column, Qt::SortOrder order);
@@ -84,7 +85,7 @@ protected:
 
 private:
     void headingClicked(int column);
-    void showWaiting();
+    void showWaiting(bool quietly);
     void showSortIndicator();
     void copySelection() const;
     int widthFromDesign(int pixels) const;
