@@ -28,19 +28,17 @@ TEST(Report, GivesTheRowsInTheOrderOfTheFirstColumn)
     EXPECT_FALSE(unwritable.err.isEmpty());
 }
 
-TEST(Report, EveryReportOfANewDatabaseRuns)
+TEST(Report, EveryReportOfANewDatabaseShowsRowsOfTheDemonstration)
 {
     const QTemporaryDir root;
     const QString folder = root.filePath("demo");
     ASSERT_EQ(0, ctlRun({"demo", folder}).code);
     const QList<QJsonObject> reports = dumpedRows(folder, "reports");
     ASSERT_GE(reports.size(), 10);
-    int withRows = 0;
     for (const QJsonObject &report : reports) {
         const CtlResult result =
             ctlRun({"report", folder, QString::number(report["rowid"].toInt())});
         EXPECT_EQ(0, result.code) << qPrintable(result.err);
-        withRows += result.lines().size() > 1 ? 1 : 0;
+        EXPECT_GT(result.lines().size(), 1) << qPrintable(report["title"].toString());
     }
-    EXPECT_GE(withRows, 12) << "the demo should have something to show in most of them";
 }
