@@ -24,7 +24,7 @@ constexpr int kTitle = 0; // columns
 constexpr int kModifiedOn = 3;
 constexpr int kModifiedSort = 4;
 constexpr int kWindowCharacters = 150;
-constexpr int kWindowLines = 26;
+constexpr int kWindowLines = 30;
 
 QString keyOf(qint32 rowid)
 {

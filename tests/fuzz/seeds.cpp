@@ -108,6 +108,20 @@ void saveTexts(const std::string &folder)
     text("list", "Description\r\nOpen\r\n\"Closed\"\r\n\"\"\r\n");
 }
 
+void saveDefinitions(const std::string &folder)
+{
+    const auto text = [&](const char *name, std::string_view bytes) {
+        save(folder + "/definition", name, asBytes(bytes));
+    };
+    text("columns", "0\n1~2~3\n\n\n\n1\n1");
+    text("criteria", "1\n3~1\n7~8\n=~#\n17~4\n0\n0");
+    text("old", "1\n3\xFE"
+                "1\n7\xFE"
+                "8\n=\xFE#\n17\xFE"
+                "4\n0\n0");
+    text("criterion", "Status # 'Closed' [17]");
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -121,5 +135,6 @@ int main(int argc, char **argv)
     saveJournals(argv[1]);
     saveCatalogue(argv[1]);
     saveTexts(argv[1]);
+    saveDefinitions(argv[1]);
     return 0;
 }
