@@ -48,6 +48,19 @@ TEST_F(MainWindow, ReportsAreOneListAndADefinitionIsOpenOnce)
     fresh->close();
 }
 
+// One closes what one has looked at, and is where one came from.
+TEST_F(MainWindow, BehindAClosedWindowComesTheOneUsedBefore)
+{
+    openWithDatabase();
+    main->ShowCustomer(database->addCustomer({{"lastname", "Smith"}}), false);
+    choose("mnuViewReports");
+    main->ShowReportDef(101, {});
+    window("frmReportDef")->close();
+    EXPECT_EQ(area()->activeSubWindow()->widget(), window("frmReportList"));
+    window("frmReportList")->close();
+    EXPECT_EQ(area()->activeSubWindow()->widget(), window("frmCustomer"));
+}
+
 TEST_F(MainWindow, TheListShowsAReportAtOnceWhenItIsSavedOrDeleted)
 {
     openWithDatabase();
