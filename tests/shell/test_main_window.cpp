@@ -7,6 +7,7 @@
 #include "common/ui/FormWindow.h"
 #include "common/ui/ListView.h"
 #include "forms/frmCustomer.h"
+#include "search/frmCustomerList.h"
 #include "search/frmLookupCustomer.h"
 #include "support/DialogDriver.h"
 
@@ -194,6 +195,31 @@ TEST_F(MainWindow, LookupByIdOpensTheCustomerOrTellsThatItIsGone)
         main->LookupCustomer();
         EXPECT_EQ(openForms().size(), 1) << qPrintable(id);
     }
+}
+
+TEST_F(MainWindow, NothingClosesWhileAListIsFilling)
+{
+    openWithDatabase();
+    const qint32 id = database->addCustomer({{"lastname", "Smith"}});
+    main->ShowCustomer(id, false);
+    auto *list = new frmCustomerList;
+    main->showChild(list);
+    const QStringList tags = openTags();
+    bool tried = false;
+    QMetaObject::invokeMethod(
+        main.get(),
+        [&] {
+            tried = true;
+            EXPECT_FALSE(main->close());
+            choose("mnuWindowCloseAll");
+        },
+        Qt::QueuedConnection);
+    list->Init(QString(), SearchLastName); // lets events through on its way
+    EXPECT_TRUE(tried);
+    EXPECT_EQ(openTags(), tags);
+    EXPECT_TRUE(gDB.IsOpen());
+    EXPECT_TRUE(main->close());
+    EXPECT_FALSE(gDB.IsOpen());
 }
 
 TEST_F(MainWindow, ACancelledLookupOpensNothing)

@@ -10,6 +10,8 @@ namespace prompts
 namespace
 {
 
+int g_progressWindows = 0;
+
 // Without a screen nobody sees how far the work is, and nobody can cancel it.
 class SilentProgress : public Progress
 {
@@ -66,6 +68,16 @@ void box(Kind kind, const QString &text, const QString &title)
 }
 
 } // namespace
+
+Progress::Progress()
+{
+    ++g_progressWindows;
+}
+
+Progress::~Progress()
+{
+    --g_progressWindows;
+}
 
 Backend &backend()
 {
@@ -139,6 +151,11 @@ std::unique_ptr<Progress> progress(const QString &title, const QString &message,
                                    bool cancel)
 {
     return backend().progress(title, message, bar, cancel);
+}
+
+bool isWorking()
+{
+    return g_progressWindows > 0;
 }
 
 } // namespace prompts

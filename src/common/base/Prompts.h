@@ -38,7 +38,10 @@ struct FileRequest {
 class Progress
 {
 public:
-    virtual ~Progress() = default;
+    Progress();
+    virtual ~Progress();
+    Progress(const Progress &) = delete;
+    Progress &operator=(const Progress &) = delete;
     virtual void setPercent(int percent) = 0; // outside 0 to 100: ignored
     virtual void setMessage(const QString &message) = 0;
     virtual bool cancelled() const = 0;
@@ -63,6 +66,7 @@ QString pickFileToOpen(const FileRequest &request);
 QString pickFileToSave(const FileRequest &request);
 std::unique_ptr<Progress> progress(const QString &title, const QString &message, bool bar,
                                    bool cancel);
+bool isWorking(); // a progress window is open
 
 struct Backend {
     std::function<Answer(const Message &)> message;

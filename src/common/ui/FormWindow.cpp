@@ -1,5 +1,7 @@
 #include "common/ui/FormWindow.h"
 
+#include "common/base/Prompts.h"
+
 #include <QKeyEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -38,9 +40,12 @@ void bringToTop(FormWindow *form)
 }
 
 // Closing a form may close or open others, so the walk is over guarded copies. Stops at the
-// first form that refuses.
+// first form that refuses. While something is under way its form would refuse, and the others
+// would be gone by then: so none is closed.
 bool closeAll(const std::function<bool(const FormWindow *)> &wanted)
 {
+    if (prompts::isWorking())
+        return std::none_of(openForms().begin(), openForms().end(), wanted);
     QList<QPointer<FormWindow>> forms;
     for (FormWindow *form : openForms())
         forms.append(form);

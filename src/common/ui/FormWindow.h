@@ -55,7 +55,7 @@ FormWindow *GetFormWithTag(const QString &tag); // null when none
 // Restores the window when it is minimised, in the main window or alone, and gives it the focus.
 void BringFormToTop(const QString &tag);
 // Closes every open window but those with the given tag; each may refuse, and the first refusal
-// ends the closing. False when one stays.
+// ends the closing. While a progress window is open none is closed. False when one stays.
 bool UnloadAll(const QString &exceptTag);
 // The same for the windows of one kind.
 bool UnloadForm(const QString &formName);
