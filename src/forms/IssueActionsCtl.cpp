@@ -19,11 +19,6 @@ namespace
 
 const QString IssueTag = QStringLiteral("issueid");
 
-QString keyOf(qint32 id)
-{
-    return u'N' + QString::number(id);
-}
-
 QString dateOf(const TableUse &actions)
 {
     return clsSystem::DBDateToDislayDate(actions.text(QStringLiteral("date")));
@@ -36,10 +31,11 @@ IssueActionsCtl::IssueActionsCtl(QWidget *parent)
 {
     m_ui->setupUi(this);
     m_ui->lv->setColumns({{tr("Date"), {}, 90},
-                          {tr("Action"), {}, 140},
-                          {tr("By"), {}, 100},
-                          {tr("Description"), {}, 220},
-                          {tr("Duration"), {}, 80, false, true}});
+                          {tr("Action"), {}, 90},
+                          {tr("By"), {}, 60},
+                          {tr("Description"), {}, 130},
+                          {tr("Duration"), {}, 60, false, true}});
+    m_ui->lv->setShares({15, 21, 17, 0, 12}); // a date fits into its share of 80 characters
     m_ui->lv->setSelectionMode(QAbstractItemView::SingleSelection);
     m_ui->lv->setAlternatingRowColors(false); // its colour says whether it can be changed
     m_ui->lv->setEmptyText(tr("No action has been noted for this issue yet."));
@@ -102,7 +98,7 @@ void IssueActionsCtl::LoadLV()
                 const double duration =
                     norvane::engine::f4double(actions.field(QStringLiteral("duration")));
                 total += duration;
-                lv->addItem(keyOf(actions.number(QStringLiteral("rowid"))),
+                lv->addItem(LvKey(actions.number(QStringLiteral("rowid"))),
                             {dateOf(actions),
                              gDB.GetCategoryDesc(actions.number(QStringLiteral("action")),
                                                  categories.handle()),
@@ -142,7 +138,7 @@ void IssueActionsCtl::changeEvent(QEvent *event)
 
 qint32 IssueActionsCtl::selectedId() const
 {
-    return LvGetSelectedItemKey(m_ui->lv).mid(1).toInt();
+    return LvKeyId(LvGetSelectedItemKey(m_ui->lv));
 }
 
 void IssueActionsCtl::add()
@@ -153,7 +149,7 @@ void IssueActionsCtl::add()
     if (!dialog.show(-1, m_issueId, frmIssueAction::Add))
         return;
     LoadLV();
-    LvSelectItem(m_ui->lv, keyOf(dialog.ActionID()));
+    LvSelectItem(m_ui->lv, LvKey(dialog.ActionID()));
 }
 
 void IssueActionsCtl::editOrView()

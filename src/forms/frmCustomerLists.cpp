@@ -12,22 +12,13 @@
 #include "forms/TemplateList.h"
 #include "ui_frmCustomer.h"
 
-#include <QHeaderView>
-
 namespace
 {
 
 constexpr int kIdDigits = 6; // padded to these, numbers sort as texts
-// Columns. The descriptions take what width is left.
-constexpr int kPSDescription = 1;
-constexpr int kIssueDescription = 2;
+// Columns
 constexpr int kSubmitDate = 4;
 constexpr int kDateSort = 5;
-
-QString keyOf(qint32 rowid)
-{
-    return u'N' + QString::number(rowid);
-}
 
 QString paddedId(qint32 rowid)
 {
@@ -39,14 +30,14 @@ QString paddedId(qint32 rowid)
 
 ListView::Row rowOf(const CustomerSubscription &held)
 {
-    return {keyOf(held.rowid),
+    return {LvKey(held.rowid),
             {held.product, held.shortDescription, held.initiated, held.terminated,
              isActiveUntil(held.terminated) ? frmCustomer::tr("Yes") : frmCustomer::tr("NO")}};
 }
 
 ListView::Row rowOf(const CustomerIssue &issue)
 {
-    return {keyOf(issue.rowid),
+    return {LvKey(issue.rowid),
             {paddedId(issue.rowid), issue.status, issue.shortDescription, issue.product,
              issue.submitted, issue.submitDate}};
 }
@@ -68,13 +59,7 @@ void fill(ListView *list, const Rows &rows, qint32 selectId)
     LvSelectFirstItem(list);
     LvSelectItem(list, selected);
     if (selectId > 0)
-        LvSelectItem(list, keyOf(selectId));
-}
-
-void stretchColumn(ListView *list, int column)
-{
-    list->header()->setStretchLastSection(false);
-    list->header()->setSectionResizeMode(column, QHeaderView::Stretch);
+        LvSelectItem(list, LvKey(selectId));
 }
 
 } // namespace
@@ -85,19 +70,19 @@ void frmCustomer::LV_AddColHeaders()
     const auto label = [](const char *field) {
         return CustomLabels.GetPSLabelName(QString::fromLatin1(field), false);
     };
-    m_ui->lvPS->setColumns({{tr("Product/Service"), {}, 240},
-                            {label("shortdesc"), {}, 240},
-                            {label("dateinit"), {}, 120},
-                            {label("dateterm"), {}, 120},
-                            {tr("Active?"), {}, 80}});
-    m_ui->lvIssues->setColumns({{tr("ID"), {}, 80},
-                                {tr("Status"), {}, 120},
-                                {tr("Short Description"), {}, 240},
-                                {tr("Product/Service"), {}, 200},
-                                {tr("Submit Date"), {}, 120},
+    m_ui->lvPS->setColumns({{tr("Product/Service"), {}, 130},
+                            {label("shortdesc"), {}, 130},
+                            {label("dateinit"), {}, 90},
+                            {label("dateterm"), {}, 90},
+                            {tr("Active?"), {}, 60}});
+    m_ui->lvIssues->setColumns({{tr("ID"), {}, 60},
+                                {tr("Status"), {}, 90},
+                                {tr("Short Description"), {}, 130},
+                                {tr("Product/Service"), {}, 130},
+                                {tr("Submit Date"), {}, 90},
                                 {tr("Date Sort"), {}, 0, true}});
-    stretchColumn(m_ui->lvPS, kPSDescription);
-    stretchColumn(m_ui->lvIssues, kIssueDescription);
+    m_ui->lvPS->setShares({26, 0, 13, 13, 10});
+    m_ui->lvIssues->setShares({9, 13, 0, 26, 13});
     m_ui->lvIssues->setSortSubstitute(kSubmitDate, kDateSort);
     for (ListView *list : {m_ui->lvPS, m_ui->lvIssues})
         list->setSelectionMode(QAbstractItemView::SingleSelection);
@@ -151,7 +136,7 @@ void frmCustomer::openSubscription()
         prompts::warn(
             tr("No Product/Service is currently selected. Please make a selection first."));
     else
-        switchboard().ShowPS(key.mid(1).toInt(), rowid(), false);
+        switchboard().ShowPS(LvKeyId(key), rowid(), false);
 }
 
 // With templates switched on, the person says first which one to start from.
@@ -171,7 +156,7 @@ void frmCustomer::openIssue()
     if (key.isEmpty())
         prompts::warn(tr("No Issue is currently selected. Please make a selection first."));
     else
-        switchboard().ShowIssue(key.mid(1).toInt(), rowid(), false, -1);
+        switchboard().ShowIssue(LvKeyId(key), rowid(), false, -1);
 }
 
 void frmCustomer::printSubscriptions()

@@ -353,6 +353,38 @@ TEST_F(ListViewTest, SortsLikeAPlainStableSort)
     }
 }
 
+TEST_F(ListViewTest, ColumnsFollowTheWidthOfTheListButStayReadable)
+{
+    m_list.setColumns({{QStringLiteral("Date"), {}, 60}, {QStringLiteral("Text"), {}, 80}});
+    m_list.setShares({20, 0});
+    for (const int width : {900, 2000}) {
+        m_list.resize(width, 200);
+        EXPECT_EQ(m_list.columnWidth(0), m_list.viewport()->width() / 5);
+        EXPECT_EQ(m_list.columnWidth(0) + m_list.columnWidth(1), m_list.viewport()->width());
+    }
+    m_list.resize(110, 200);
+    const QList<ListView::Column> narrow = m_list.columns();
+    EXPECT_EQ(narrow[0].width, 60);
+    EXPECT_EQ(narrow[1].width, 80);
+}
+
+// Some desktops have dark themes that say nothing of the colour for hints.
+TEST_F(ListViewTest, AnEmptyListSaysWhyOnADarkThemeToo)
+{
+    QPalette dark;
+    dark.setColor(QPalette::Base, QColor(0x1b, 0x1e, 0x20));
+    dark.setColor(QPalette::Text, Qt::white);
+    dark.setColor(QPalette::PlaceholderText, Qt::black);
+    m_list.setPalette(dark);
+    m_list.setEmptyText(QStringLiteral("No issues yet."));
+    const QImage shown = m_list.viewport()->grab().toImage();
+    int brightest = 0;
+    for (int y = 0; y < shown.height(); ++y)
+        for (int x = 0; x < shown.width(); ++x)
+            brightest = std::max(brightest, shown.pixelColor(x, y).lightness());
+    EXPECT_GT(brightest, 120);
+}
+
 TEST_F(ListViewTest, AnEmptyListSaysWhy)
 {
     const QImage blank = m_list.grab().toImage();

@@ -8,7 +8,6 @@
 #include "ui_AttachmentsCtl.h"
 
 #include <QFileInfo>
-#include <QHeaderView>
 
 namespace
 {
@@ -34,12 +33,11 @@ AttachmentsCtl::AttachmentsCtl(QWidget *parent)
 {
     m_ui->setupUi(this);
     m_ui->lv->setAlternatingRowColors(false); // its colour says whether it can be edited
-    m_ui->lv->setColumns({{tr("Name"), {}, 300},
-                          {tr("Size"), {}, 90, false, true},
-                          {tr("Type"), {}, 180},
-                          {tr("Modified"), {}, 150}});
-    m_ui->lv->header()->setStretchLastSection(false);
-    m_ui->lv->header()->setSectionResizeMode(0, QHeaderView::Stretch); // names may be long
+    m_ui->lv->setColumns({{tr("Name"), {}, 200},
+                          {tr("Size"), {}, 80, false, true},
+                          {tr("Type"), {}, 130},
+                          {tr("Modified"), {}, 140}});
+    m_ui->lv->setShares({0, 11, 24, 21}); // names may be long
     connectControls();
     SetUI();
 }

@@ -93,6 +93,38 @@ QList<ListView::Column> ListView::columns() const
     return result;
 }
 
+void ListView::setShares(const QList<int> &hundredths)
+{
+    m_shares = hundredths;
+    header()->setStretchLastSection(false);
+    shareWidth();
+}
+
+void ListView::shareWidth()
+{
+    const QList<Column> designed = m_model->columns();
+    int left = viewport()->width();
+    int rest = -1;
+    for (int at = 0; at < m_shares.size(); ++at) {
+        if (m_shares[at] == 0) {
+            rest = at;
+            continue;
+        }
+        const int width =
+            std::max(widthFromDesign(designed[at].width), viewport()->width() * m_shares[at] / 100);
+        setColumnWidth(at, width);
+        left -= width;
+    }
+    if (rest >= 0)
+        setColumnWidth(rest, std::max(widthFromDesign(designed[rest].width), left));
+}
+
+void ListView::resizeEvent(QResizeEvent *event)
+{
+    QTreeView::resizeEvent(event);
+    shareWidth();
+}
+
 void ListView::clearItems()
 {
     m_model->clear();
@@ -251,7 +283,10 @@ void ListView::paintEvent(QPaintEvent *event)
     if (m_model->count() > 0 || m_emptyText.isEmpty())
         return;
     QPainter painter(viewport());
-    painter.setPen(palette().color(QPalette::PlaceholderText));
+    // Not the palette's colour for it, which some desktops leave black on their dark themes.
+    QColor quiet = palette().color(QPalette::Text);
+    quiet.setAlphaF(0.6F);
+    painter.setPen(quiet);
     const int margin = fontMetrics().height();
     painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),
                      Qt::AlignCenter | Qt::TextWordWrap, m_emptyText);

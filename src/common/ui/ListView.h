@@ -34,6 +34,10 @@ public:
 
     void setColumns(const QList<Column> &columns);
     QList<Column> columns() const;
+    // From now on the columns follow the width of the list, on the screen and so on paper: each
+    // takes its hundredths of it, though not less than its first guess; the one with 0 takes what
+    // is left. One number a shown column.
+    void setShares(const QList<int> &hundredths);
 
     // Rows in the order shown. Texts beyond the columns are kept but never shown; a sorted list
     // stays sorted when rows come in.
@@ -81,6 +85,7 @@ Q_SIGNALS:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
@@ -89,8 +94,10 @@ private:
     void showSortIndicator();
     void copySelection() const;
     int widthFromDesign(int pixels) const;
+    void shareWidth();
 
     ListViewModel *m_model;
+    QList<int> m_shares; // hundredths; empty: the columns keep their widths
     QString m_emptyText;
     int m_loads = 0; // depth of beginLoad
     QHash<int, int> m_sortSubstitutes;
@@ -98,6 +105,9 @@ private:
     int m_lastHeading = -1; // clicked
 };
 
+// Items that stand for a row of a table have the key "N" and its rowid.
+QString LvKey(qint32 rowid);
+qint32 LvKeyId(const QString &key); // 0 for an empty key
 // The names the screens use; keys are exact, texts ignore case.
 // Selecting an item ends the selection of all others.
 bool LvIsItemSelected(const ListView *lv);

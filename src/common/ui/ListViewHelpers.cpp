@@ -39,6 +39,16 @@ bool selectRow(ListView *lv, int row)
 
 } // namespace
 
+QString LvKey(qint32 rowid)
+{
+    return u'N' + QString::number(rowid);
+}
+
+qint32 LvKeyId(const QString &key)
+{
+    return key.mid(1).toInt();
+}
+
 bool LvIsItemSelected(const ListView *lv)
 {
     return firstSelectedRow(lv) >= 0;
