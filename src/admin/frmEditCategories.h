@@ -3,8 +3,7 @@
 #pragma once
 
 #include "admin/LookupLists.h"
-
-#include <QDialog>
+#include "common/form/ItemListDialog.h"
 
 #include <memory>
 
@@ -13,7 +12,7 @@ namespace Ui
 class frmEditCategories;
 }
 
-class frmEditCategories : public QDialog
+class frmEditCategories : public ItemListDialog
 {
     Q_OBJECT
 public:
@@ -21,24 +20,17 @@ public:
     ~frmEditCategories() override;
 
     void Init(const LookupList &list);
-    // Reads the list anew; the caption tells when.
-    void LoadData();
-
-    // A label that is being typed when the window closes is stored.
-    void done(int result) override;
 
 protected:
-    void keyPressEvent(QKeyEvent *event) override;
+    clsDB::ListTable table() const override { return m_list.table; }
+    void LoadData() override; // the caption tells when
+    void SetUI() override;
 
 private:
     void connectControls();
-    void SetUI();
-    void newItem();
     void deleteSelected();
     void deleteAll();
-    void print();
     bool DeleteItem(qint32 rowid, const QString &text);
-    std::optional<QString> storeLabel(const QString &key, const QString &text);
 
     std::unique_ptr<Ui::frmEditCategories> m_ui;
     LookupList m_list;

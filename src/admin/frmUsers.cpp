@@ -23,14 +23,9 @@ QString userFile()
     return schema::table(schema::Table::User).dataFile();
 }
 
-QString userKey(qint32 rowid)
-{
-    return u'N' + QString::number(rowid);
-}
-
 ListView::Row listRow(const TableUse &user)
 {
-    return {userKey(user.number(QStringLiteral("rowid"))),
+    return {LvKey(user.number(QStringLiteral("rowid"))),
             {user.text(QStringLiteral("login")),
              clsSystem::MakeFullName(user.text(QStringLiteral("firstname")),
                                      user.text(QStringLiteral("lastname"))),
@@ -140,7 +135,7 @@ QString frmUsers::selectedLogin() const
 
 qint32 frmUsers::selectedId() const
 {
-    return LvGetSelectedItemKey(ui->lvUsers).mid(1).toInt();
+    return LvKeyId(LvGetSelectedItemKey(ui->lvUsers));
 }
 
 bool frmUsers::selectedExists() const
@@ -157,7 +152,7 @@ void frmUsers::addUser()
     if (!form.exec())
         return;
     refresh();
-    LvSelectItem(ui->lvUsers, userKey(form.rowid()));
+    LvSelectItem(ui->lvUsers, LvKey(form.rowid()));
 }
 
 void frmUsers::showProperties()

@@ -36,7 +36,6 @@ clsDB::ListTable table()
 void setUp(ListView *list)
 {
     list->setColumns({{QCoreApplication::translate("templates", "Issue Templates"), {}, 240}});
-    list->setSelectionMode(QAbstractItemView::SingleSelection);
 }
 
 void addAll(ListView *list)
@@ -44,16 +43,6 @@ void addAll(ListView *list)
     ListViewSink sink(list);
     const clsDB::ListTable from = table();
     gDB.LoadLV(sink, from.path, from.keyField, from.textField, from.type);
-}
-
-QString keyOf(qint32 id)
-{
-    return u'N' + QString::number(id);
-}
-
-qint32 idOf(const QString &key)
-{
-    return key.mid(1).toInt();
 }
 
 } // namespace templates

@@ -20,7 +20,5 @@ clsDB::ListTable table();
 void setUp(ListView *list);
 // Behind the items that are there; the selection stays.
 void addAll(ListView *list);
-QString keyOf(qint32 id);
-qint32 idOf(const QString &key);
 
 } // namespace templates

@@ -1,17 +1,16 @@
 // The list of issue templates: new ones, their names, and whether new issues ask for one. Modal.
 #pragma once
 
-#include <QDialog>
+#include "common/form/ItemListDialog.h"
 
 #include <memory>
-#include <optional>
 
 namespace Ui
 {
 class frmEditIssueTemplates;
 }
 
-class frmEditIssueTemplates : public QDialog
+class frmEditIssueTemplates : public ItemListDialog
 {
     Q_OBJECT
 public:
@@ -25,16 +24,12 @@ public:
     void done(int result) override;
 
 protected:
-    void keyPressEvent(QKeyEvent *event) override;
+    clsDB::ListTable table() const override;
+    void LoadData() override;
+    void SetUI() override;
 
 private:
-    void connectControls();
-    void LoadData();
-    void SetUI();
-    void newTemplate();
     void editTemplate();
-    void print();
-    std::optional<QString> UpdateDesc(const QString &key, const QString &text);
     void storeEnabled();
 
     std::unique_ptr<Ui::frmEditIssueTemplates> m_ui;

@@ -21,6 +21,7 @@ frmSelectIssueTemplate::frmSelectIssueTemplate(QWidget *parent)
     setProperty("tag", QStringLiteral("EDIT_ISSUETEMPLATES"));
     setProperty("helpTopic", help::IssueTemplates);
     templates::setUp(m_ui->lv);
+    m_ui->lv->setSelectionMode(QAbstractItemView::SingleSelection);
     connect(m_ui->lv, &ListView::itemSelectionChanged, this, &frmSelectIssueTemplate::SetUI);
     connect(m_ui->lv, &ListView::itemActivated, this, &QDialog::accept);
     connect(m_ui->cmdOK, &QPushButton::clicked, this, &QDialog::accept);
@@ -37,7 +38,7 @@ void frmSelectIssueTemplate::LoadData()
 {
     const QString selected = LvGetSelectedItemKey(m_ui->lv);
     m_ui->lv->clearItems();
-    m_ui->lv->addItem(templates::keyOf(kBlank), {tr("Blank Issue")});
+    m_ui->lv->addItem(LvKey(kBlank), {tr("Blank Issue")});
     templates::addAll(m_ui->lv);
     LvSelectItem(m_ui->lv, selected);
     SetUI();
@@ -51,7 +52,7 @@ void frmSelectIssueTemplate::SetUI()
 qint32 frmSelectIssueTemplate::templateId() const
 {
     const QString key = LvGetSelectedItemKey(m_ui->lv);
-    return key.isEmpty() ? kBlank : templates::idOf(key);
+    return key.isEmpty() ? kBlank : LvKeyId(key);
 }
 
 void frmSelectIssueTemplate::keyPressEvent(QKeyEvent *event)

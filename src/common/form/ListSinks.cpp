@@ -6,16 +6,6 @@
 #include <QComboBox>
 #include <QListWidget>
 
-namespace
-{
-
-QString itemKey(qint32 id)
-{
-    return QLatin1Char('N') + QString::number(id);
-}
-
-} // namespace
-
 void ComboSink::clear()
 {
     m_combo->clear();
@@ -56,18 +46,18 @@ void ListViewSink::clear()
 
 void ListViewSink::addItem(const QString &text, qint32 id)
 {
-    m_list->addItem(itemKey(id), {text});
+    m_list->addItem(LvKey(id), {text});
 }
 
 qint32 ListViewSink::currentId() const
 {
     const QString key = LvGetSelectedItemKey(m_list);
-    return key.isEmpty() ? -1 : key.mid(1).toInt();
+    return key.isEmpty() ? -1 : LvKeyId(key);
 }
 
 void ListViewSink::selectId(qint32 id)
 {
-    LvSelectItem(m_list, itemKey(id));
+    LvSelectItem(m_list, LvKey(id));
 }
 
 void ListViewSink::beginLoad()
