@@ -17,7 +17,7 @@ IssueFieldsCtl::IssueFieldsCtl(QWidget *parent)
     // However wide the window, no field is much wider than what goes into it.
     const int character = fontMetrics().averageCharWidth();
     for (QLineEdit *box : {m_ui->txtDateSubmit, m_ui->txtDateResponse, m_ui->txtDateResolution})
-        box->setMaximumWidth(kDateCharacters * character);
+        box->setFixedWidth(kDateCharacters * character);
     setMaximumWidth(kPageCharacters * character);
 }
 

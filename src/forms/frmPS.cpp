@@ -90,7 +90,7 @@ void frmPS::tellLengths()
     for (QLineEdit *box : {m_ui->txtContractNumber, m_ui->txtTrackNo})
         box->setMaximumWidth((box->maxLength() + 2) * character);
     for (QLineEdit *box : {m_ui->txtDateInitiated, m_ui->txtDateTerminated})
-        box->setMaximumWidth(kDateCharacters * character);
+        box->setFixedWidth(kDateCharacters * character);
     for (QWidget *column : {m_ui->columnLeft, m_ui->columnRight})
         column->setMaximumWidth(kColumnCharacters * character);
 }

@@ -200,6 +200,50 @@ TEST_F(ChildWindows, TilingSqueezesNoWindowBelowWhatItNeeds)
         EXPECT_TRUE(room().contains(window->geometry()));
 }
 
+TEST_F(ChildWindows, TileSideBySideWhereOneColumnIsNotEnough)
+{
+    openWithDatabase();
+    QList<QMdiSubWindow *> windows;
+    for (int at = 0; at < 5; ++at) {
+        windows += show(new SmallForm);
+        windows.last()->widget()->setMinimumSize(300, 160); // three fit below each other
+    }
+    for (const char *tiling : {"mnuWindowTH", "mnuWindowTV"}) {
+        choose(tiling);
+        int covered = 0;
+        for (const QMdiSubWindow *window : windows) {
+            covered += window->width() * window->height();
+            EXPECT_TRUE(room().contains(window->geometry())) << tiling;
+            for (const QMdiSubWindow *other : windows)
+                EXPECT_TRUE(window == other || !window->geometry().intersects(other->geometry()))
+                    << tiling;
+        }
+        EXPECT_EQ(covered, room().width() * room().height()) << tiling;
+    }
+}
+
+// What people have open when they work: two customers and two issues on a small screen.
+TEST_F(ChildWindows, RecordWindowsTileWithoutOverlapping)
+{
+    openWithDatabase();
+    QList<QMdiSubWindow *> windows;
+    for (const char *name : {"Smith", "Jones"}) {
+        const qint32 customer = database->addCustomer({{"lastname", name}});
+        main->ShowCustomer(customer, false);
+        main->ShowIssue(database->addIssue({{"custid", customer}}), customer, false, -1);
+    }
+    windows = area()->subWindowList();
+    ASSERT_EQ(windows.size(), 4);
+    for (const char *tiling : {"mnuWindowTH", "mnuWindowTV"}) {
+        choose(tiling);
+        for (const QMdiSubWindow *window : windows)
+            for (const QMdiSubWindow *other : windows)
+                EXPECT_TRUE(window == other || !window->geometry().intersects(other->geometry()))
+                    << tiling << " needs " << window->minimumSizeHint().width() << 'x'
+                    << window->minimumSizeHint().height();
+    }
+}
+
 TEST_F(ChildWindows, TileInRowsAndInColumns)
 {
     openWithDatabase();

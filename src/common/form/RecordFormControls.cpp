@@ -115,6 +115,7 @@ void RecordForm::connectControls()
     c.buttonBox->addButton(c.CancelButton, QDialogButtonBox::RejectRole);
     c.buttonBox->addButton(c.cmdApply, QDialogButtonBox::ApplyRole);
     c.OKButton->setDefault(true);
+    letButtonsShrink(this);
 
     connect(c.OKButton, &QPushButton::clicked, this, &RecordForm::saveAndClose);
     connect(c.cmdApply, &QPushButton::clicked, this, &RecordForm::saveAndStay);

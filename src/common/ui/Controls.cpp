@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QShortcut>
 #include <QTextEdit>
 
@@ -194,6 +195,15 @@ QColor warningColour(const QWidget *control)
 void markChoice(QComboBox *combo, bool unusual)
 {
     combo->setPalette(unusual ? tinted(combo, warningColour(combo)) : untinted(combo));
+}
+
+void letButtonsShrink(const QWidget *form)
+{
+    for (QPushButton *button : form->findChildren<QPushButton *>()) {
+        const QFontMetrics metrics = button->fontMetrics();
+        button->setMinimumWidth(metrics.size(Qt::TextShowMnemonic, button->text()).width() +
+                                2 * metrics.averageCharWidth());
+    }
 }
 
 void shortcutFor(QWidget *form, const QKeySequence &key, QAbstractButton *button)

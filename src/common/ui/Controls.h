@@ -59,6 +59,9 @@ QColor warningColour(const QWidget *control);
 // A choice that differs from the usual one stands out in that colour.
 void markChoice(QComboBox *combo, bool unusual);
 
+// Lets the buttons become as narrow as their texts where room is short.
+void letButtonsShrink(const QWidget *form);
+
 // The key clicks the button from anywhere in the form.
 void shortcutFor(QWidget *form, const QKeySequence &key, QAbstractButton *button);
 bool KeyPressedCtrlE(int key, Qt::KeyboardModifiers modifiers);
