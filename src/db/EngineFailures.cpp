@@ -64,11 +64,17 @@ void EngineFailures::note(const Error &error)
         m_first = error;
 }
 
-void EngineFailures::show()
+void EngineFailures::show(QStringList *told)
 {
     const Error error = std::exchange(m_first, {});
-    if (error)
-        prompts::critical(engineFailureText(error));
+    if (!error)
+        return;
+    const QString text = engineFailureText(error);
+    if (told != nullptr && told->contains(text))
+        return;
+    if (told != nullptr)
+        told->append(text);
+    prompts::critical(text);
 }
 
 QString engineFailureText(const Error &error)

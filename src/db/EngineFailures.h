@@ -5,14 +5,16 @@
 #include "db/engine/Status.h"
 
 #include <QString>
+#include <QStringList>
 
 class EngineFailures
 {
 public:
     // Keeps the first failure; a lock held elsewhere is an answer and not a failure.
     void note(const norvane::engine::Error &error);
-    // Tells the kept failure, if any, in a critical box and forgets it.
-    void show();
+    // Tells the kept failure, if any, in a critical box and forgets it. What the list of texts
+    // holds is not told again; null: everything is.
+    void show(QStringList *told = nullptr);
     void clear() { m_first = {}; }
     bool any() const { return bool(m_first); }
     // Between these two damaged memos are not kept: a search over many counts them itself.

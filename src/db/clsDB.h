@@ -103,8 +103,8 @@ public:
     // folder that refuses writing gives a table for reading.
     Handle OpenTable(const QString &path);
     void CloseTable(Handle table);
-    // While one lives, a table that cannot be opened is told of once: a screen reads the same
-    // table for each of its lists and labels.
+    // While one lives, a table that cannot be opened is told of once, and so is each failure: a
+    // screen reads the same table for each of its lists and labels, and saves to it twice.
     class TellOnce
     {
     public:
@@ -135,8 +135,9 @@ public:
     };
 
     // ---- reading only (clsDBReadOnly.cpp)
-    // A table is damaged, or the locks of two stations do not reach each other: nothing is saved
-    // any more until the database is opened again. That was or will be told, once.
+    // A table is damaged, its files may not be changed, or the locks of two stations do not reach
+    // each other: nothing is saved any more until the database is opened again. That was or will
+    // be told, once.
     bool IsReadOnly() const { return !m_readOnlyReason.isEmpty(); }
     // True when changes may be saved; otherwise says why not. Commands that change something ask
     // before they begin.
@@ -276,6 +277,7 @@ private:
     bool startWatch(bool thorough);
     void noteDeafLocks();
     void noteDamage(const norvane::engine::Error &damage);
+    void lookAtRight(const QString &path);
     void becomeReadOnly(const QString &reason, const QString &notice);
     void tellReadOnly();
     bool isTableOfOurs(const QString &path) const;
@@ -298,7 +300,7 @@ private:
     int m_openTables = 0;
     EngineFailures m_failures;
     int m_tellingOnce = 0;
-    QStringList m_told; // paths, while telling once
+    QStringList m_told; // paths and texts, while telling once
     norvane::engine::FileSystem *m_files = nullptr;
     StationWatch m_watch;
     QDateTime m_lastBeat;

@@ -1,5 +1,5 @@
-// When a database is open for reading only: damage that a repair has to decide about, and record
-// locks that do not reach the other stations.
+// When a database is open for reading only: damage that a repair has to decide about, files that
+// may not be changed, and record locks that do not reach the other stations.
 #include "db/clsDB.h"
 
 #include "common/base/clsSystem.h"
@@ -8,6 +8,7 @@
 #include "db/Screens.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <chrono>
 #include <cstdlib>
@@ -88,6 +89,20 @@ void clsDB::noteDamage(const Error &damage)
             "everybody close the database and run 'norvanectl repair', or restore the data folder "
             "from your latest backup.")
             .arg(file, QString::fromStdString(damage.detail)));
+}
+
+void clsDB::lookAtRight(const QString &path)
+{
+    const QFileInfo file(clsSystem::LocalPath(path));
+    if (!file.exists() || file.isWritable())
+        return;
+    becomeReadOnly(
+        QStringLiteral("you have no right to change the file '%1'").arg(path),
+        QStringLiteral("You have no right to change the file '%1'. Therefore this database is open "
+                       "for reading only: everything can be looked at, and nothing can be "
+                       "changed.\n\nPlease ask your administrator for the right to change the "
+                       "files in the data folder. Then open the database again.")
+            .arg(path));
 }
 
 void clsDB::becomeReadOnly(const QString &reason, const QString &notice)

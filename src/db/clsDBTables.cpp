@@ -34,11 +34,13 @@ bool clsDB::isTableOfOurs(const QString &path) const
     });
 }
 
-// Finds damage at the opening, before somebody fills in a form that could not be saved. Other
-// troubles are told when the table is used.
+// Finds damage and missing rights at the opening, before somebody fills in a form that could not be
+// saved. Other troubles are told when the table is used.
 void clsDB::lookAtTables()
 {
     for (const schema::TableInfo &table : schema::tables()) {
+        for (const QString &name : table.files())
+            lookAtRight(MakePath(m_sDBPath, name));
         const Handle handle =
             d4open(m_hSession, clsSystem::LocalPath(TablePath(table.table)).toStdString());
         const Error &damage = handle > 0 ? d4damage(handle) : lastError(m_hSession);
@@ -92,7 +94,7 @@ void clsDB::CloseTable(Handle table)
     m_openTables = std::max(0, m_openTables - 1);
     if (m_openTables > 0)
         return;
-    m_failures.show();
+    m_failures.show(m_tellingOnce > 0 ? &m_told : nullptr);
     tellReadOnly();
 }
 

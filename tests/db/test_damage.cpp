@@ -6,6 +6,9 @@
 #include <QDir>
 #include <QFile>
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 using namespace norvane::engine;
 using schema::Table;
 
@@ -197,6 +200,33 @@ TEST_F(Damage, AFolderThatVanishesAndComesBackNeedsNoRestart)
     ASSERT_TRUE(QDir().rename(away, db.path()));
     EXPECT_TRUE(gDB.ReadRecord(row));
     EXPECT_TRUE(gDB.SaveRecord(fresh));
+}
+
+// An administrator may do everything, so the test becomes nobody for that long.
+TEST_F(Damage, WithoutTheRightToChangeItsFilesADatabaseIsForReading)
+{
+    gDB.CloseDB();
+    ASSERT_EQ(::chmod(QFile::encodeName(db.path()).constData(), 0555), 0);
+    for (const QFileInfo &file : QDir(db.path()).entryInfoList(QDir::Files))
+        ASSERT_EQ(::chmod(QFile::encodeName(file.filePath()).constData(), 0444), 0);
+    const bool administrator = ::getuid() == 0;
+    if (administrator) {
+        ASSERT_EQ(::setresuid(65534, 65534, 0), 0);
+    }
+    const QStringList opening =
+        told([this] { EXPECT_TRUE(gDB.OpenUnattended(db.path(), u"SYSOP"_s, u"sysop"_s)); });
+    RecColl row = record(u"_customer"_s, id);
+    EXPECT_TRUE(gDB.ReadRecord(row));
+    const QStringList writing = told([] { EXPECT_FALSE(gDB.MayWrite()); });
+    gDB.CloseDB();
+    if (administrator) {
+        ASSERT_EQ(::setresuid(0, 0, 0), 0);
+    }
+    ::chmod(QFile::encodeName(db.path()).constData(), 0755);
+    ASSERT_EQ(opening.size(), 1) << qPrintable(opening.join(u'\n'));
+    EXPECT_TRUE(opening[0].startsWith(u"You have no right to change the file"));
+    ASSERT_EQ(writing.size(), 1);
+    EXPECT_TRUE(writing[0].contains(u"because you have no right to change the file"));
 }
 
 TEST_F(Damage, AFailureSaysWhatIsWrongAndWhatToDo)

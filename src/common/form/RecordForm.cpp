@@ -223,6 +223,7 @@ bool RecordForm::SaveData()
 // marked by a window that may be closed next. The typed texts stay in the controls.
 bool RecordForm::storeRecord()
 {
+    const clsDB::TellOnce tellOnce(gDB);
     RecColl record = newRecord();
     for (const FieldBinding &binding : m_bindings)
         record.add(binding.field, binding.value());
