@@ -160,7 +160,7 @@ void frmPreferences::windowChosen()
                                     .title = tr("Save Changes?"),
                                     .text = tr("Do you want to save changes for this window?"),
                                     .buttons = {prompts::Answer::Yes, prompts::Answer::No},
-                                    .preset = prompts::Answer::Yes};
+                                    .preset = prompts::Answer::No};
     if (m_changed && prompts::message(question) == prompts::Answer::Yes && !SaveData()) {
         const QScopedValueRollback<bool> loading(m_loading, true);
         cboSelectAtIndex(m_ui->cboWindow, m_window);

@@ -115,7 +115,8 @@ TEST_F(Customizations, NamesAreStoredByOkApplyAndTheQuestionOnly)
     const auto ask = [this](Answer answer) {
         person.expect(u"Do you want to save changes for this window?"_s, answer)
             .title(u"Save Changes?"_s)
-            .buttons({Answer::Yes, Answer::No});
+            .buttons({Answer::Yes, Answer::No})
+            .preset(Answer::No);
     };
     ask(Answer::Yes);
     window->setCurrentIndex(0);
