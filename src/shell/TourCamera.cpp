@@ -6,6 +6,8 @@
 #include <QPainter>
 #include <QStyle>
 
+#include <algorithm>
+
 namespace
 {
 
@@ -41,6 +43,28 @@ void drawWindow(QPainter &painter, const QRect &screen, QWidget *window)
         drawFrame(painter, place, window);
 }
 
+int depth(const QWidget *window)
+{
+    int parents = 0;
+    for (const QWidget *at = window->parentWidget(); at != nullptr; at = at->parentWidget())
+        ++parents;
+    return parents;
+}
+
+// A window before those that stand over it.
+QWidgetList windowsOver(const QWidget *screen)
+{
+    QWidgetList windows;
+    for (QWidget *window : QApplication::topLevelWidgets()) {
+        if (window != screen && window->isVisible() && window->parentWidget() != nullptr)
+            windows += window;
+    }
+    std::stable_sort(windows.begin(), windows.end(), [](const QWidget *one, const QWidget *other) {
+        return depth(one) < depth(other);
+    });
+    return windows;
+}
+
 } // namespace
 
 TourCamera::TourCamera(QString folder) : m_folder(std::move(folder)) {}
@@ -49,10 +73,8 @@ QString TourCamera::shoot(const QWidget *screen, const QString &name)
 {
     QPixmap picture = const_cast<QWidget *>(screen)->grab();
     QPainter painter(&picture);
-    for (QWidget *window : QApplication::topLevelWidgets()) {
-        if (window != screen && window->isVisible() && window->parentWidget() != nullptr)
-            drawWindow(painter, screen->geometry(), window);
-    }
+    for (QWidget *window : windowsOver(screen))
+        drawWindow(painter, screen->geometry(), window);
     painter.end();
     const QString file =
         QString::number(++m_number).rightJustified(2, u'0') + u'-' + name + QLatin1String(".png");

@@ -82,6 +82,7 @@ void Tour::start()
     main->showNormal();
     main->setGeometry(0, 0, 1280, 800);
     need(!gDB.IsOpen(), QStringLiteral("a database is open already"));
+    UnloadAll(QStringLiteral("MAINFORM")); // the tip of the day has its turn later
     shoot(QStringLiteral("no-database"));
 }
 
