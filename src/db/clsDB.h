@@ -170,6 +170,27 @@ public:
 
     // ---- identifiers and parameters (clsDBIds.cpp)
     qint32 GetNextID(const QString &tableName); // -1 when locked or not to be opened
+    // For who adds many rows to a table: while one lives, its identifiers are taken from the
+    // counter `size` at a time. What is left over goes back if nobody else took any since.
+    class IdBlock
+    {
+    public:
+        IdBlock(clsDB &db, QString tableName, qint32 size);
+        ~IdBlock();
+        Q_DISABLE_COPY_MOVE(IdBlock)
+        bool isFor(const QString &tableName) const
+        {
+            return m_table.compare(tableName, Qt::CaseInsensitive) == 0;
+        }
+        qint32 next();
+
+    private:
+        clsDB &m_db;
+        const QString m_table;
+        const qint32 m_size;
+        qint32 m_next = 0;
+        qint32 m_end = 0; // behind the last one
+    };
     QString GetParamValue(const QString &name);
     bool SetParamValue(const QString &name, const QString &value);
     static QString MakeCustomFieldParamName(const QString &table, const QString &field);
@@ -282,6 +303,8 @@ private:
     void tellReadOnly();
     bool isTableOfOurs(const QString &path) const;
     void lookAtTables();
+    qint32 takeIDs(const QString &tableName, qint32 count);
+    void giveBackIDs(const QString &tableName, qint32 from, qint32 behind);
     qint32 highestIdInUse(const QString &tableName) const;
     QStringList missingFiles(const QString &dir, bool repair) const;
     QString openingHelp() const;
@@ -299,6 +322,7 @@ private:
     Handle m_hSession = 0;
     int m_openTables = 0;
     EngineFailures m_failures;
+    IdBlock *m_idBlock = nullptr; // not owned
     int m_tellingOnce = 0;
     QStringList m_told; // paths and texts, while telling once
     norvane::engine::FileSystem *m_files = nullptr;

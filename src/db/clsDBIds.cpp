@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 using namespace norvane::engine;
 
@@ -47,10 +48,18 @@ qint32 highestInUse(Handle session, const std::string &path)
     return highest == std::numeric_limits<qint32>::max() ? 0 : highest;
 }
 
-// Takes the next value of the counter that `rows` stands on, or a higher one when numbers from
+// What the counter says after `count` numbers from `taken` on were given out.
+qint32 counterBehind(qint32 taken, qint32 count)
+{
+    qint32 next = taken + std::min(count - 1, std::numeric_limits<qint32>::max() - taken);
+    clsSystem::IncL(next);
+    return next;
+}
+
+// Takes the next values of the counter that `rows` stands on, or higher ones when numbers from
 // there on are in use: the counter was lost or comes from a backup. Locking reads the row anew, so
 // what another station counted in the meantime is not given out twice.
-qint32 takeNext(TableUse &rows, qint32 inUse)
+qint32 takeNext(TableUse &rows, qint32 inUse, qint32 count)
 {
     const RowLock lock(rows.handle());
     if (!lock)
@@ -61,15 +70,13 @@ qint32 takeNext(TableUse &rows, qint32 inUse)
     if (taken < FirstID && inUse < FirstID)
         return Garbled;
     taken = std::max(taken, inUse + 1);
-    qint32 next = taken;
-    clsSystem::IncL(next);
-    f4assignLong(counter, next);
+    f4assignLong(counter, counterBehind(taken, count));
     return storeChange(rows.handle()) ? taken : Failed;
 }
 
 // Starts a counter. The append lock is taken before looking again, so that of two stations that
 // both found no counter only one starts it.
-qint32 startCounter(TableUse &rows, const QString &name, qint32 inUse)
+qint32 startCounter(TableUse &rows, const QString &name, qint32 inUse, qint32 count)
 {
     {
         const RowLock appending(rows.handle(), 0);
@@ -77,16 +84,14 @@ qint32 startCounter(TableUse &rows, const QString &name, qint32 inUse)
             return appending.heldElsewhere() ? Locked : Failed;
         if (!rows.seekText(name, CounterName)) {
             const qint32 taken = std::max(FirstID, inUse + 1);
-            qint32 next = taken;
-            clsSystem::IncL(next);
             d4appendStartVB(rows.handle(), 0);
             d4blank(rows.handle());
-            f4assignLong(rows.field(QStringLiteral("lastid")), next);
+            f4assignLong(rows.field(QStringLiteral("lastid")), counterBehind(taken, count));
             AssignText(rows.field(CounterName), name);
             return storeNewRow(rows.handle()) ? taken : Failed;
         }
     }
-    return takeNext(rows, inUse);
+    return takeNext(rows, inUse, count);
 }
 
 } // namespace
@@ -106,6 +111,13 @@ qint32 clsDB::highestIdInUse(const QString &tableName) const
 
 qint32 clsDB::GetNextID(const QString &tableName)
 {
+    return m_idBlock != nullptr && m_idBlock->isFor(tableName) ? m_idBlock->next()
+                                                               : takeIDs(tableName, 1);
+}
+
+// The first of `count` numbers that are this session's own from here on.
+qint32 clsDB::takeIDs(const QString &tableName, qint32 count)
+{
     return guarded("clsDB_GetNextID", -1, [&] {
         if (!MayWrite())
             return -1;
@@ -121,7 +133,8 @@ qint32 clsDB::GetNextID(const QString &tableName)
             d4tagSelect(rows.handle(), d4tag(rows.handle(), "TBLNAME"));
             // What is added behind our back from here on has its number from the counter.
             const qint32 inUse = highestIdInUse(tableName);
-            taken = found ? takeNext(rows, inUse) : startCounter(rows, tableName, inUse);
+            taken =
+                found ? takeNext(rows, inUse, count) : startCounter(rows, tableName, inUse, count);
             if (taken == Garbled)
                 m_failures.note({ErrorKind::Damaged, LastIDTable().toStdString(), "counter"});
         }
@@ -129,6 +142,47 @@ qint32 clsDB::GetNextID(const QString &tableName)
             prompts::critical(QStringLiteral("RECORD LOCKED: Unable to get next id (locked)!"));
         return taken > 0 ? taken : -1;
     });
+}
+
+clsDB::IdBlock::IdBlock(clsDB &db, QString tableName, qint32 size)
+    : m_db(db), m_table(std::move(tableName)), m_size(size)
+{
+    m_db.m_idBlock = this;
+}
+
+clsDB::IdBlock::~IdBlock()
+{
+    m_db.m_idBlock = nullptr;
+    if (m_next < m_end)
+        guarded("clsDB_GetNextID", [this] { m_db.giveBackIDs(m_table, m_next, m_end); });
+}
+
+qint32 clsDB::IdBlock::next()
+{
+    if (!m_db.MayWrite())
+        return -1;
+    if (m_next >= m_end) {
+        const qint32 first = m_db.takeIDs(m_table, m_size);
+        if (first < 1)
+            return first;
+        m_next = first;
+        m_end = counterBehind(first, m_size);
+    }
+    return m_next++;
+}
+
+// Unless another station took numbers behind them meanwhile; then they stay unused.
+void clsDB::giveBackIDs(const QString &tableName, qint32 from, qint32 behind)
+{
+    TableUse rows(*this, LastIDTable());
+    if (!rows || !rows.seekText(tableName, CounterName))
+        return;
+    const RowLock lock(rows.handle());
+    const Handle counter = rows.field(QStringLiteral("lastid"));
+    if (lock && f4long(counter) == behind) {
+        f4assignLong(counter, from);
+        storeChange(rows.handle());
+    }
 }
 
 QString clsDB::GetParamValue(const QString &name)

@@ -52,7 +52,8 @@ private:
     void seeMyIssues();
     void showReports(); // TourReports.cpp
     void seeSecondStation();
-    void extendList(); // these three: TourOffice.cpp
+    void extendList();
+    void importSpreadsheet(); // these four: TourOffice.cpp
     void addUser();
     void readHelp();
     void makeReport(); // TourReports.cpp

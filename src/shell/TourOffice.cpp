@@ -1,10 +1,14 @@
-// The steps of the tour that look after the database: lookup lists, users, and the way to help.
+// The steps of the tour that look after the database: lookup lists, import, users, and the way to
+// help.
+#include "common/base/AppInfo.h"
 #include "common/ui/ListView.h"
 #include "db/clsDB.h"
 #include "db/LookupTypes.h"
 #include "shell/TourHands.h"
 
 #include <QApplication>
+#include <QDialog>
+#include <QDir>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
@@ -37,6 +41,31 @@ void Tour::extendList()
     pressAndAnswer(QStringLiteral("CATCUST"));
     need(gDB.CategoryExists(newCategory, lookup_type::CustomerCategories) > 0,
          QStringLiteral("the new entry is not stored"));
+}
+
+void Tour::importSpreadsheet()
+{
+    const QString file =
+        QDir(app::programFolder()).filePath(QStringLiteral("Sample Customer Import.csv"));
+    const qint32 before = gDB.GetRecCount(gDB.CustomerTable(), QStringLiteral("rowid"));
+    m_visitor->expect(QStringLiteral("frmDataImport"), [this, file](QWidget *wizard) {
+        auto *next = control<QPushButton>(wizard, "cmdNext");
+        shoot(QStringLiteral("import-target"));
+        next->click();
+        typeInto(control<QLineEdit>(wizard, "txtFilename"), QDir::toNativeSeparators(file));
+        shoot(QStringLiteral("import-file"));
+        next->click();
+        shoot(QStringLiteral("import-rows"));
+        m_visitor->expect(QStringLiteral("QMessageBox"), [this](QWidget *told) {
+            shoot(QStringLiteral("import-done"));
+            static_cast<QDialog *>(told)->accept();
+        });
+        next->click();
+        control<QPushButton>(wizard, "CancelButton")->click();
+    });
+    pressAndAnswer(QStringLiteral("ADIMPWIZ"));
+    need(gDB.GetRecCount(gDB.CustomerTable(), QStringLiteral("rowid")) == before + 4,
+         QStringLiteral("the rows of the sample file are not stored"));
 }
 
 void Tour::addUser()

@@ -57,6 +57,7 @@ void Tour::allSteps()
          [this] { showReports(); });
     step(QStringLiteral("See what the second workstation changed"), [this] { seeSecondStation(); });
     step(QStringLiteral("Add an entry to a lookup list"), [this] { extendList(); });
+    step(QStringLiteral("Import a spreadsheet's customers"), [this] { importSpreadsheet(); });
     step(QStringLiteral("Give a colleague a login"), [this] { addUser(); });
     step(QStringLiteral("Make a report"), [this] { makeReport(); });
     step(QStringLiteral("Arrange the windows"), [this] { arrangeWindows(); });

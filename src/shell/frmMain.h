@@ -4,8 +4,8 @@
 // frmMain.cpp: its life and states. frmMainMenus.cpp: which commands there are and where they
 // stand. frmMainFile.cpp: the File commands. frmMainCommands.cpp: customers. frmMainIssues.cpp:
 // lists of issues. frmMainRecords.cpp: the records that belong to customers. frmMainReports.cpp:
-// reports. frmMainHelp.cpp: Help.
-// frmMainAdmin.cpp: users, passwords and statistics. frmMainLists.cpp: lookup lists.
+// reports. frmMainHelp.cpp: Help. frmMainAdmin.cpp: users, passwords, import, purge and
+// statistics. frmMainLists.cpp: lookup lists.
 // frmMainMail.cpp: mail. frmMainWindows.cpp: child windows and the Window menu.
 #pragma once
 
@@ -86,6 +86,7 @@ public:
     void ChangePassword();
     void UserManagement();
     void Customizations();
+    void ImportData();
     void ManageIssueTemplates();
     void EditCustomerCategory();
     void EditProductServiceCategory();

@@ -1,8 +1,9 @@
-// The commands of those who look after the database: users, passwords, names of fields and
-// statistics.
+// The commands of those who look after the database: users, passwords, names of fields,
+// import and statistics.
 #include "shell/frmMain.h"
 
 #include "admin/frmChangePWD.h"
+#include "admin/frmDataImport.h"
 #include "admin/frmPreferences.h"
 #include "admin/frmUsers.h"
 #include "common/base/clsSystem.h"
@@ -41,6 +42,12 @@ void frmMain::Customizations()
         return;
     frmPreferences(this).exec();
     SetCustomMenuLabels();
+}
+
+void frmMain::ImportData()
+{
+    if (gDB.Perm_DBAdmin())
+        frmDataImport(this).exec();
 }
 
 // Window events run while it counts; a second count must not begin inside the first.

@@ -48,6 +48,7 @@ constexpr Command commands[] = {
     {"mnuViewDatabaseAdminUserMgmt", "ADUSERMAN", Admin, "Edit Users"},
     {"mnuViewDatabaseAdminIssueTemplates", "ADITEMP", Admin,
      "3/14/2004 @ 3:05:09 PM - Edit Issue Templates"},
+    {"mnuViewDatabaseAdminImportData", "ADIMPWIZ", Admin, "Import Data Wizard"},
     {"mnuViewDatabaseAdminCustomizations", "ADCUSTOM", Admin, "Customizations"},
     {"mnuViewOptions", "ADEMAILOPT", None, "Email Options"},
     {"mnuViewDatabaseAdminStatistics", "ADSTAT", Admin, "DATABASE STATISTICS"},

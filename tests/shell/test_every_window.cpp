@@ -3,6 +3,7 @@
 #include "MainWindowFixture.h"
 
 #include "admin/frmChangePWD.h"
+#include "admin/frmDataImport.h"
 #include "admin/frmEditCategories.h"
 #include "admin/frmPreferences.h"
 #include "admin/frmUser.h"
@@ -194,6 +195,7 @@ TEST_F(MainWindow, EveryWindowCanBeReadAloudAndHasKeysOfOneMeaning)
              form->Init(*lookupList(3));
              return form;
          }},
+        {"frmDataImport", plain<frmDataImport>()},
         {"frmLogin", plain<frmLogin>()},
         {"frmIssueList", plain<frmIssueList>()},
         {"frmLookupCustomer", plain<frmLookupCustomer>()},

@@ -27,6 +27,7 @@ enum Topic {
     IssueTemplates = 1335,
     Customizations = 1350,
     EmailOptions = 1360,
+    DataImport = 1370,
     ReportList = 1390,
     ReportDefinition = 1400,
     ReportDisplay = 1410,

@@ -1,6 +1,7 @@
 #include "db/import/CsvReader.h"
 
 #include "common/base/Ansi.h"
+#include "common/base/AppInfo.h"
 #include "common/base/clsSystem.h"
 
 #include <algorithm>
@@ -24,6 +25,21 @@ bool CsvReader::open()
     m_utf8 = m_block.startsWith(mark);
     m_pos = m_utf8 ? mark.size() : 0;
     return !failed();
+}
+
+bool CsvReader::seek(qint64 position)
+{
+    m_block.clear();
+    m_pos = 0;
+    return m_file.seek(position);
+}
+
+Failure CsvReader::failure() const
+{
+    constexpr int DeviceError = 57;
+    return {DeviceError, app::title(),
+            QLatin1String("The file '") + m_file.fileName() + QLatin1String("' cannot be read: ") +
+                m_file.errorString()};
 }
 
 // Gets the next block when the last one is used up.

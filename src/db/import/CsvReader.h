@@ -2,6 +2,8 @@
 // Bytes are Windows-1252, or UTF-8 in a file that starts with that byte-order mark.
 #pragma once
 
+#include "common/base/Failure.h"
+
 #include <QByteArray>
 #include <QFile>
 #include <QString>
@@ -18,9 +20,13 @@ public:
     bool open();
     // The next line without its end; nothing at the end of the file or after a fault.
     std::optional<QString> readLine();
+    // Where the next line begins, in bytes; seek goes back to such a place.
+    qint64 position() const { return m_file.pos() - (m_block.size() - m_pos); }
+    bool seek(qint64 position);
     bool lineWasCut() const { return m_cut; }
     bool failed() const { return m_file.error() != QFileDevice::NoError; }
-    QString faultText() const { return m_file.errorString(); }
+    // Names the file and what the system said.
+    Failure failure() const;
 
 private:
     bool fill();

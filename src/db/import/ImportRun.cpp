@@ -1,6 +1,5 @@
 #include "db/import/ImportRun.h"
 
-#include "common/base/AppInfo.h"
 #include "common/base/clsSystem.h"
 #include "common/base/Failure.h"
 #include "common/base/Host.h"
@@ -13,6 +12,9 @@
 namespace
 {
 
+constexpr qint32 idsAtOnce = 100;
+constexpr qint32 rowsBetweenLooks = 1000;
+
 const clsImportColDef *columnNamed(const QString &heading, const clsImportColDefs &columns)
 {
     for (const clsImportColDef &def : columns) {
@@ -20,12 +22,6 @@ const clsImportColDef *columnNamed(const QString &heading, const clsImportColDef
             return &def;
     }
     return nullptr;
-}
-
-[[noreturn]] void failWithReader(const CsvReader &reader)
-{
-    constexpr int DeviceError = 57;
-    throw Failure(DeviceError, app::title(), reader.faultText());
 }
 
 } // namespace
@@ -91,7 +87,10 @@ bool ImportRun::importRows(const QString &path, const WaitDlg &progress)
 {
     CsvReader reader(path);
     if (!reader.open())
-        failWithReader(reader);
+        throw reader.failure();
+    const schema::Table table =
+        m_target == NewCustomers ? schema::Table::Customer : schema::Table::Category;
+    const clsDB::IdBlock ids(m_db, schema::table(table).dataFile(), idsAtOnce);
     bool good = true;
     qint32 rowNumber = 1;
     for (auto line = reader.readLine(); line; line = reader.readLine(), ++rowNumber) {
@@ -103,13 +102,15 @@ bool ImportRun::importRows(const QString &path, const WaitDlg &progress)
         const QString row = clsSystem::Trim(*line);
         if (rowNumber == 1 || row.isEmpty())
             continue;
+        if (m_result.tried % rowsBetweenLooks == 0)
+            m_entries.clear();
         ++m_result.tried;
         const QStringList values = SplitCsvRowForStoring(row);
         const bool added = m_target == NewCustomers ? AddCustomer(values) : AddCategory(values);
         good = added && good;
     }
     if (reader.failed())
-        failWithReader(reader);
+        throw reader.failure();
     return good;
 }
 
@@ -129,8 +130,7 @@ bool ImportRun::AddCustomer(const QStringList &values)
         if (def->lookupType == 0)
             record.setExisting(def->target, values[i]);
         else
-            record.setExisting(def->target,
-                               m_db.LookupOrAddCategory(values[i], def->lookupType, m_categories));
+            record.setExisting(def->target, entry(values[i], def->lookupType));
     }
     const QString lastname = QStringLiteral("lastname");
     if (record.text(lastname).isEmpty() && record.text(QStringLiteral("company")).isEmpty())
@@ -139,6 +139,18 @@ bool ImportRun::AddCustomer(const QStringList &values)
         return false;
     noteStored(record.number(QStringLiteral("_rowid")));
     return true;
+}
+
+// The same few entries come again and again; what others did to the list is seen after a while.
+qint32 ImportRun::entry(const QString &text, int listType)
+{
+    const qint32 known = m_entries.value({listType, text}, 0);
+    if (known > 0)
+        return known;
+    const qint32 rowid = m_db.LookupOrAddCategory(text, listType, m_categories);
+    if (rowid > 0)
+        m_entries.insert({listType, text}, rowid);
+    return rowid;
 }
 
 bool ImportRun::AddCategory(const QStringList &values)

@@ -6,6 +6,7 @@
 #include "db/clsDB.h"
 #include "db/import/clsImportData.h"
 
+#include <QHash>
 #include <QString>
 #include <QStringList>
 
@@ -39,6 +40,7 @@ private:
     void closeTables();
     bool AddCustomer(const QStringList &values);
     bool AddCategory(const QStringList &values);
+    qint32 entry(const QString &text, int listType);
     void noteStored(qint32 rowid);
     int percentOf(qint32 rowNumber) const;
 
@@ -50,5 +52,6 @@ private:
     std::function<void(qint32)> m_onStored;
     clsDB::Handle m_customers = 0;
     clsDB::Handle m_categories = 0;
+    QHash<std::pair<int, QString>, qint32> m_entries; // of lists, met lately
     ImportResult m_result;
 };

@@ -1,6 +1,5 @@
 #include "db/import/clsImportData.h"
 
-#include "common/base/AppInfo.h"
 #include "common/base/clsSystem.h"
 #include "common/base/Failure.h"
 #include "common/base/Host.h"
@@ -89,13 +88,6 @@ QString missingData(qint32 rowNumber, const QString &row)
            QString(row).replace(csvDelimiter, u',') + clsSystem::CRLF();
 }
 
-void failOnFault(const CsvReader &reader)
-{
-    constexpr int DeviceError = 57;
-    if (reader.failed())
-        throw Failure(DeviceError, app::title(), reader.faultText());
-}
-
 QString headingFaults(const clsImportColDefs &columns, const QStringList &headings)
 {
     QString errors;
@@ -169,7 +161,8 @@ bool clsImportData::ValidateRows(const QString &path, const clsImportColDefs &co
                 host().pumpEvents();
             cancelled = progress->cancelled();
         }
-        failOnFault(reader);
+        if (reader.failed())
+            throw reader.failure();
         return badRows == 0 && !cancelled;
     });
     clsSystem::WaitDlgRemove(progress);
