@@ -92,6 +92,35 @@ TEST_F(Ids, ALostOrRestoredCounterNeverGivesANumberTwice)
     EXPECT_EQ(highest + 50, gDB.GetNextID(customers));
 }
 
+TEST_F(Ids, ABlockIsNobodyElsesAndWhatIsLeftGoesBack)
+{
+    const QString customers = u"nvncust.dbf"_s;
+    const auto other = db.otherStation();
+    {
+        const clsDB::IdBlock block(gDB, customers, 3);
+        EXPECT_EQ(1000, gDB.GetNextID(customers));
+        EXPECT_EQ(1000, gDB.GetNextID(u"nvncust_ps.dbf"_s)) << "another table's";
+        EXPECT_EQ(1003, other->GetNextID(customers));
+        EXPECT_EQ(1001, gDB.GetNextID(customers));
+        EXPECT_EQ(1002, gDB.GetNextID(customers));
+        EXPECT_EQ(1004, gDB.GetNextID(customers)) << "the next block";
+    }
+    EXPECT_EQ(1005, gDB.GetNextID(customers)) << "1005 and 1006 were not used";
+    {
+        const clsDB::IdBlock block(gDB, customers, 3);
+        EXPECT_EQ(1006, gDB.GetNextID(customers));
+        EXPECT_EQ(1009, other->GetNextID(customers));
+    }
+    EXPECT_EQ(1010, gDB.GetNextID(customers)) << "others have numbers behind those left over";
+    {
+        setCounter(customers, std::numeric_limits<qint32>::max() - 1);
+        const clsDB::IdBlock block(gDB, customers, 3);
+        person.expect(u"\rclsDB_GetNextID"_s).title(u"Error"_s);
+        EXPECT_EQ(-1, gDB.GetNextID(customers));
+    }
+    EXPECT_EQ(std::numeric_limits<qint32>::max() - 1, gDB.GetNextID(customers));
+}
+
 TEST_F(Ids, ParametersIgnoreCaseAndKeepOneRow)
 {
     EXPECT_EQ(QString(), gDB.GetParamValue(u"ENABLE_ISSUE_TEMPLATES"_s));
