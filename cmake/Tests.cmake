@@ -27,3 +27,10 @@ function(norvane_test name)
         PROPERTIES TIMEOUT ${ARG_TIMEOUT}
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;TZ=UTC;XDG_CONFIG_HOME=${CMAKE_BINARY_DIR}/test-home")
 endfunction()
+
+# The engine's calls of the system go past tests/engine/FailingCalls.cpp, which lets them fail.
+function(norvane_failing_calls name)
+    foreach(call IN ITEMS fcntl fdatasync fstat fsync ftruncate open pread pwrite rename unlink)
+        target_link_options(${name} PRIVATE -Wl,--wrap=${call})
+    endforeach()
+endfunction()
