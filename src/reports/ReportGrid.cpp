@@ -18,6 +18,7 @@ namespace
 
 constexpr int kWidestColumn = 60; // in average letters
 constexpr int kMeasured = 200;    // texts of a column, the longest ones
+constexpr int kCornerMargin = 10; // beside the heading in it
 
 } // namespace
 
@@ -62,6 +63,8 @@ void ReportGrid::showColumns()
     const bool numbered = report().table().firstDataColumn() > 0;
     for (int column = 0; column < model()->columnCount(); ++column)
         setColumnHidden(column, numbered && column == 0);
+    const QString corner = model()->headerData(0, Qt::Horizontal, Qt::DisplayRole).toString();
+    verticalHeader()->setMinimumWidth(fontMetrics().horizontalAdvance(corner) + 2 * kCornerMargin);
     verticalHeader()->setVisible(numbered);
     setCornerButtonEnabled(numbered);
     markSorted(-1);

@@ -12,14 +12,41 @@
 #include "reports/ReportModel.h"
 #include "ui_ReportWindow.h"
 
+#include <QPagedPaintDevice>
+
+#include <algorithm>
 
 namespace
 {
 
 constexpr int kMargin = 720; // twips
 
-PrintedTable printed(const ReportGrid &grid)
+// Columns wider than their share of the page give way first, so that the narrow ones keep all of
+// their texts.
+QList<int> widthsWithin(const QList<int> &widths, int room)
 {
+    QList<int> narrowFirst = widths;
+    std::sort(narrowFirst.begin(), narrowFirst.end());
+    int most = room;
+    for (qsizetype at = 0; at < narrowFirst.size(); ++at) {
+        most = room / static_cast<int>(narrowFirst.size() - at);
+        if (narrowFirst[at] > most)
+            break;
+        room -= narrowFirst[at];
+        most = narrowFirst[at]; // of those so far; the last one is the widest
+    }
+    QList<int> fitted;
+    for (const int width : widths)
+        fitted.append(std::min(width, most));
+    return fitted;
+}
+
+PrintedTable printed(const ReportGrid &grid, const QPagedPaintDevice &device)
+{
+    const int dots = grid.logicalDpiX();
+    const qreal points = device.pageLayout().fullRect(QPageLayout::Point).width();
+    const int room = static_cast<int>(points * dots / 72) - 2 * kMargin * dots / 1440;
+    const int between = 2 * grid.fontMetrics().averageCharWidth();
     const ReportTable &table = grid.report().table();
     PrintedTable printed{.headings = {},
                          .widths = {},
@@ -32,8 +59,9 @@ PrintedTable printed(const ReportGrid &grid)
                          .font = grid.font()};
     for (std::size_t column = 0; column < table.columns.size(); ++column) {
         printed.headings.append(table.columns[column].heading);
-        printed.widths.append(grid.shownWidth(static_cast<int>(column)));
+        printed.widths.append(grid.shownWidth(static_cast<int>(column)) + between);
     }
+    printed.widths = widthsWithin(printed.widths, room);
     return printed;
 }
 
@@ -68,8 +96,9 @@ const ReportTable &ReportWindow::report() const
 // A page of rows, and room for a few columns.
 QSize ReportWindow::sizeHint() const
 {
-    return {100 * fontMetrics().averageCharWidth(),
-            FormWindow::sizeHint().height() + 14 * fontMetrics().height()};
+    return FormWindow::sizeHint().expandedTo(
+               {130 * fontMetrics().averageCharWidth(), FormWindow::sizeHint().height()}) +
+           QSize(0, 14 * fontMetrics().height());
 }
 
 void ReportWindow::SetUI() {}
@@ -233,8 +262,8 @@ void ReportWindow::print()
         {.name = name,
          .draw =
              [this, name](QPagedPaintDevice &device) {
-                 return TablePrint(printed(*ui->grd), device, kMargin, kMargin, kMargin, kMargin,
-                                   name);
+                 return TablePrint(printed(*ui->grd, device), device, kMargin, kMargin, kMargin,
+                                   kMargin, name);
              },
          .orientation = landscape() ? QPageLayout::Landscape : QPageLayout::Portrait});
 }

@@ -277,6 +277,7 @@ TEST_F(DataImport, ATableThatCannotBeOpenedIsTold)
 {
     choose(customers, write("LASTNAME,COMPANY\nDoe,\n"));
     ASSERT_TRUE(QFile::rename(gDB.CustomerTable(), database.file("away")));
+    person.expect("Unable to open: " + gDB.CustomerTable());
     person.expect("Unable to open Customer table!").kind(Kind::Critical);
     person.expect("Unable to import data!").kind(Kind::Critical);
     next();

@@ -164,7 +164,7 @@ TEST_F(Import, AFolderThatGoesAwayOnTheRunIsToldOnce)
     run.onStored([](qint32) { QFile::remove(gDB.LastIDTable()); });
     const ImportResult result = run.ImportData_Detail(file.path());
     EXPECT_EQ(4, result.tried);
-    EXPECT_EQ(1, result.stored);
+    EXPECT_EQ(4, result.stored) << "their identifiers were taken before";
 }
 
 TEST_F(Import, AFileThatWentAwayIsReported)

@@ -193,6 +193,7 @@ TEST_F(ReportDisplay, TheRecordBehindARowOpens)
     EXPECT_EQ(board.calls(), QStringList(u"ShowCustomer %1 false"_s.arg(ids[1])));
     board.forget();
     const QPoint first = grid->visualRect(grid->model()->index(0, 1)).center();
+    QTest::mouseClick(grid->viewport(), Qt::LeftButton, Qt::NoModifier, first);
     QTest::mouseDClick(grid->viewport(), Qt::LeftButton, Qt::NoModifier, first);
     EXPECT_EQ(board.calls(), QStringList(u"ShowCustomer %1 false"_s.arg(ids[3])));
 

@@ -218,5 +218,6 @@ TEST_F(ReportOutputs, PaperRepeatsTitleAndHeadingsAndNumbersItsPages)
 
     open(definition(LastNameCityState, true, false, true));
     button(*form, "cmdPrint")->click();
-    EXPECT_GT(printer.pages().size(), portrait.size()) << "a landscape page takes fewer rows";
+    EXPECT_LT(printer.pages().first().count(u'\n'), portrait.first().count(u'\n'))
+        << "a landscape page takes fewer rows";
 }

@@ -438,7 +438,7 @@ protected:
         rows = 300'000;
         m_list.beginLoad();
         for (int id = 0; id < rows; ++id)
-            add(id, QString::number(id * 7919 % rows));
+            add(id, QString::number(qint64{id} * 7919 % rows));
     }
     ~CancelledSort() override { prompts::backend() = m_before; }
 
