@@ -97,8 +97,8 @@ int dispatch(const QStringList &words, Console &console)
 
 QList<Command> commands()
 {
-    return {newCommand(),  demoCommand(),  bulkCommand(),   importCommand(),
-            dumpCommand(), reportCommand(), checkCommand(), repairCommand(), reindexCommand()};
+    return {newCommand(),    demoCommand(),  bulkCommand(),   importCommand(), dumpCommand(),
+            reportCommand(), checkCommand(), repairCommand(), reindexCommand()};
 }
 
 int runProgram(const QStringList &words, Console &console)
