@@ -97,14 +97,14 @@ bool ListViewModel::sortRows(int column, Qt::SortOrder order, const GoOn &goOn)
         if (!rows)
             return false;
         if (!std::is_sorted(rows->begin(), rows->end()))
-            moveRows(*rows);
+            arrangeRows(*rows);
     }
     m_sortColumn = column;
     m_sortOrder = order;
     return true;
 }
 
-void ListViewModel::moveRows(const std::vector<std::uint32_t> &order)
+void ListViewModel::arrangeRows(const std::vector<std::uint32_t> &order)
 {
     Q_EMIT layoutAboutToBeChanged({}, QAbstractItemModel::VerticalSortHint);
     m_rows.arrange(order);

@@ -51,7 +51,7 @@ public:
     Qt::ItemFlags flags(const QModelIndex &index) const override;
 
 private:
-    void moveRows(const std::vector<std::uint32_t> &order);
+    void arrangeRows(const std::vector<std::uint32_t> &order);
 
     QList<ListView::Column> m_columns;
     ListRows m_rows;
