@@ -108,7 +108,7 @@ void frmUsers::LoadData()
             rows.append(listRow(users));
         ui->lvUsers->beginLoad();
         ui->lvUsers->clearItems();
-        ui->lvUsers->addItems(std::move(rows));
+        ui->lvUsers->addItems(rows);
         ui->lvUsers->endLoad();
         LvSelectItem(ui->lvUsers, selected);
         ui->lblCount->setText(QString::number(ui->lvUsers->itemCount()) + tr(" user(s)"));
