@@ -53,7 +53,7 @@ void fill(ListView *list, const Rows &rows, qint32 selectId)
         shown.append(rowOf(row));
     list->clearItems();
     list->beginLoad();
-    list->addItems(std::move(shown));
+    list->addItems(shown);
     list->sortBy(0, Qt::AscendingOrder);
     list->endLoad();
     LvSelectFirstItem(list);
