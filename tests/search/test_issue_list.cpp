@@ -277,8 +277,9 @@ TEST_F(IssueList, HitsAreThoseOfAPlainScan)
         for (const auto &[key, issue] : issues) {
             bool hit = words.trimmed().isEmpty();
             for (int place = 0; place < 3; ++place) {
-                const auto has = [&issue, place](const QString &word) {
-                    return issue.texts[place].contains(word, Qt::CaseInsensitive);
+                const QString &field = issue.texts[place];
+                const auto has = [&field](const QString &word) {
+                    return field.contains(word, Qt::CaseInsensitive);
                 };
                 if (in.contains(places[place]))
                     hit = hit || (type == 1 ? std::any_of(wanted.begin(), wanted.end(), has)
