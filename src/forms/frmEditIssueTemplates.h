@@ -10,7 +10,7 @@ namespace Ui
 class frmEditIssueTemplates;
 }
 
-class frmEditIssueTemplates : public ItemListDialog
+class frmEditIssueTemplates final : public ItemListDialog
 {
     Q_OBJECT
 public:
