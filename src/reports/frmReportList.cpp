@@ -135,8 +135,8 @@ void frmReportList::addRows(TableUse &reports)
             names.insert(user, gDB.GetUsername(user));
         const QString date = reports.text(QStringLiteral("lastmoddt"));
         const QString time = reports.text(QStringLiteral("lastmodtm"));
-        const QString on = clsSystem::DBDateToDislayDate(date) + u" @ " +
-                           clsSystem::DBTimeToDislayTime(time);
+        const QString on =
+            clsSystem::DBDateToDislayDate(date) + u" @ " + clsSystem::DBTimeToDislayTime(time);
         m_ui->lv->addItem(keyOf(reports.number(QStringLiteral("rowid"))),
                           {reports.text(QStringLiteral("title")),
                            reports::typeName(reports.text(QStringLiteral("type"))),
