@@ -14,7 +14,7 @@ printf '#pragma once\n#define NORVANE_SOURCE_DIR "."\n#define NORVANE_BINARY_DIR
 mapfile -t sources < <(
     ls src/db/engine/*.cpp tests/engine/*.cpp |
         grep -v -e FilePosix.cpp -e FailingCalls.cpp -e tests/engine/Station.cpp \
-            -e test_locks.cpp -e test_system_faults.cpp
+            -e test_fuse.cpp -e test_locks.cpp -e test_system_faults.cpp
 )
 printf '%s\n' "${sources[@]}" |
     xargs -P "$(nproc)" -n 1 "$compiler" -std=c++20 -Isrc -Itests -isystem "$scratch" \
