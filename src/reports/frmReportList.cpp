@@ -26,11 +26,6 @@ constexpr int kModifiedSort = 4;
 constexpr int kWindowCharacters = 150;
 constexpr int kWindowLines = 30;
 
-QString keyOf(qint32 rowid)
-{
-    return u'N' + QString::number(rowid);
-}
-
 } // namespace
 
 frmReportList::frmReportList(QWidget *parent)
@@ -117,7 +112,7 @@ void frmReportList::LoadData(qint32 select)
         m_ui->lv->beginLoad();
         addRows(reports);
         m_ui->lv->endLoad();
-        if (!LvSelectItem(m_ui->lv, keyOf(select)) && !LvSelectItem(m_ui->lv, selected))
+        if (!LvSelectItem(m_ui->lv, LvKey(select)) && !LvSelectItem(m_ui->lv, selected))
             LvSelectFirstItem(m_ui->lv);
         m_ui->lblCount->setText(QString::number(m_ui->lv->itemCount()) + tr(" Report(s)"));
         setWindowTitle(tr("All Reports") + u" @" + clsSystem::CurrTimeAMPM());
@@ -137,7 +132,7 @@ void frmReportList::addRows(TableUse &reports)
         const QString time = reports.text(QStringLiteral("lastmodtm"));
         const QString on =
             clsSystem::DBDateToDislayDate(date) + u" @ " + clsSystem::DBTimeToDislayTime(time);
-        m_ui->lv->addItem(keyOf(reports.number(QStringLiteral("rowid"))),
+        m_ui->lv->addItem(LvKey(reports.number(QStringLiteral("rowid"))),
                           {reports.text(QStringLiteral("title")),
                            reports::typeName(reports.text(QStringLiteral("type"))),
                            names.value(user), date.isEmpty() ? QString() : on, date + time});
@@ -153,8 +148,7 @@ void frmReportList::SetUI()
 
 qint32 frmReportList::selectedReport() const
 {
-    const QString key = LvGetSelectedItemKey(m_ui->lv);
-    return key.isEmpty() ? -1 : key.mid(1).toInt();
+    return LvKeyId(LvGetSelectedItemKey(m_ui->lv));
 }
 
 void frmReportList::newReport(const QString &type)

@@ -30,7 +30,7 @@ private:
     void setUpNewMenu();
     void connectControls();
     void addRows(TableUse &reports);
-    qint32 selectedReport() const; // -1: none
+    qint32 selectedReport() const; // 0: none
     void newReport(const QString &type);
     void view();
     void edit();

@@ -76,7 +76,7 @@ void HitListWindow::DisplayResultCnt()
 void HitListWindow::openHit(const QString &key)
 {
     if (!key.isEmpty())
-        openRecord(key.mid(1).toInt());
+        openRecord(LvKeyId(key));
 }
 
 // A list that is still filling is not printed in part.

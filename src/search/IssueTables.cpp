@@ -1,6 +1,7 @@
 #include "search/IssueTables.h"
 
 #include "common/base/clsSystem.h"
+#include "common/ui/ListView.h"
 #include "db/FieldText.h"
 
 // The first that cannot be opened is told, not the others as well.
@@ -31,7 +32,7 @@ void IssueTables::forgetNames()
 
 QString IssueTables::itemKey(const IssueHit &hit)
 {
-    return u'N' + QString::number(hit.rowid);
+    return LvKey(hit.rowid);
 }
 
 QString IssueTables::text(std::string_view stored)

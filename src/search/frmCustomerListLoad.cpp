@@ -2,6 +2,7 @@
 #include "search/frmCustomerList.h"
 
 #include "common/base/clsSystem.h"
+#include "common/ui/ListView.h"
 #include "db/clsCustomLabels.h"
 #include "db/clsDB.h"
 #include "db/FieldText.h"
@@ -111,7 +112,7 @@ frmCustomerList::ListFields frmCustomerList::listFields(Handle table)
 void frmCustomerList::AddLvItem(const ListFields &fields)
 {
     ui->lvCustomers->addItem(
-        u'N' + QString::number(f4long(fields.rowid)),
+        LvKey(f4long(fields.rowid)),
         {gSys.MakeFullName(trimmedText(fields.firstname), trimmedText(fields.lastname)),
          trimmedText(fields.company), trimmedText(fields.custno), trimmedText(fields.workphone),
          trimmedText(fields.city)});
