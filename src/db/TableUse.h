@@ -79,6 +79,23 @@ private:
     norvane::engine::Code m_code;
 };
 
+// While it lives rows stored through the table wait; store() makes one save of them, which costs
+// one sync instead of one a row. What waits at its end is forgotten.
+class SaveGroup
+{
+public:
+    explicit SaveGroup(clsDB::Handle table);
+    ~SaveGroup();
+    SaveGroup(const SaveGroup &) = delete;
+    SaveGroup &operator=(const SaveGroup &) = delete;
+
+    // Stores what waits: all of it or, when this answers false, nothing. The group goes on.
+    bool store();
+
+private:
+    clsDB::Handle m_table;
+};
+
 // Writes the current row's changes through to the files, or the row begun; when that fails nothing
 // of it is kept. The new row's locks are given back.
 bool storeChange(clsDB::Handle table);

@@ -188,6 +188,23 @@ RowLock::~RowLock()
     d4unlock(m_table);
 }
 
+SaveGroup::SaveGroup(clsDB::Handle table) : m_table(table)
+{
+    d4groupBegin(m_table);
+}
+
+SaveGroup::~SaveGroup()
+{
+    d4groupDrop(m_table);
+}
+
+bool SaveGroup::store()
+{
+    const bool stored = d4groupEnd(m_table) == r4success;
+    d4groupBegin(m_table);
+    return stored;
+}
+
 void expectOurTags(clsDB::Handle session)
 {
     for (const schema::TableInfo &table : schema::tables())

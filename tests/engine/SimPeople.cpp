@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace enginetest
 {
 
@@ -21,6 +23,12 @@ bool fill(Handle table, const Person &person)
 
 bool performOn(Handle table, const Save &save)
 {
+    if (save.kind == Save::Kind::Group) {
+        const auto perform = [table](const Save &one) { return performOn(table, one); };
+        return d4groupBegin(table) == r4success &&
+               std::all_of(save.group.begin(), save.group.end(), perform) &&
+               d4groupEnd(table) == r4success;
+    }
     if (save.kind == Save::Kind::Insert) {
         d4appendStartVB(table, 0);
         d4blank(table);
@@ -39,6 +47,55 @@ bool performOn(Handle table, const Save &save)
         d4discard(table);
     (void)d4unlock(table);
     return done;
+}
+
+int nextId(const People &people)
+{
+    return (people.empty() ? 0 : people.rbegin()->first) + 1;
+}
+
+Save randomOne(const People &people, std::mt19937 &random)
+{
+    const auto number = [&random](unsigned below) { return static_cast<int>(random() % below); };
+    const auto note = [&] {
+        const int kind = number(4);
+        const int length = kind == 0 ? 0 : kind == 3 ? number(3000) : number(90);
+        return std::string(static_cast<std::size_t>(length), static_cast<char>('a' + number(26)));
+    };
+    const int choice = number(10);
+    if (people.size() < 3 || choice < 4) {
+        Save save = insertOf(nextId(people), note());
+        save.person.detail = note();
+        return save;
+    }
+    auto chosen = people.begin();
+    std::advance(chosen, number(static_cast<unsigned>(people.size())));
+    if (choice == 9)
+        return {Save::Kind::Delete, chosen->first, {}, {}};
+    Save save{Save::Kind::Update, chosen->first, chosen->second, {}};
+    if (number(2) == 0)
+        save.person.name = "Name " + std::to_string(number(1000));
+    if (number(3) == 0)
+        save.person.notes = note();
+    if (number(3) == 0)
+        save.person.detail = note();
+    save.person.city = "City " + std::to_string(number(40));
+    return save;
+}
+
+// Each of another one of the people.
+Save randomGroup(People people, std::mt19937 &random)
+{
+    Save all = groupOf({});
+    int id = nextId(people);
+    for (auto count = 2 + random() % 6; count > 0; --count) {
+        Save one = randomOne(people, random);
+        if (one.kind == Save::Kind::Insert)
+            one.id = id++;
+        people.erase(one.id);
+        all.group.push_back(std::move(one));
+    }
+    return all;
 }
 
 std::string readPeople(Handle table, People &people)
@@ -126,41 +183,39 @@ std::unique_ptr<SimDisk> diskWithPeople()
 Save insertOf(int id, const std::string &notes)
 {
     const std::string number = std::to_string(id * 7919 % 1000);
-    return {Save::Kind::Insert, id, {"Name " + number, "City " + number, notes, {}}};
+    return {Save::Kind::Insert, id, {"Name " + number, "City " + number, notes, {}}, {}};
+}
+
+Save groupOf(std::vector<Save> saves)
+{
+    return {Save::Kind::Group, 0, {}, std::move(saves)};
+}
+
+Save mixedGroup()
+{
+    Save all = groupOf({});
+    for (int id = 9; id <= 28; ++id)
+        all.group.push_back(insertOf(id, std::string(static_cast<std::size_t>(id % 3 * 40), 'g')));
+    Save update = insertOf(5, "another text");
+    update.kind = Save::Kind::Update;
+    update.person.name = "Zz";
+    all.group.push_back(update);
+    for (const int id : {2, 3})
+        all.group.push_back({Save::Kind::Delete, id, {}});
+    return all;
 }
 
 Save randomSave(const People &people, std::mt19937 &random)
 {
-    const auto number = [&random](unsigned below) { return static_cast<int>(random() % below); };
-    const auto note = [&] {
-        const int kind = number(4);
-        const int length = kind == 0 ? 0 : kind == 3 ? number(3000) : number(90);
-        return std::string(static_cast<std::size_t>(length), static_cast<char>('a' + number(26)));
-    };
-    const int choice = number(10);
-    if (people.size() < 3 || choice < 4) {
-        const int id = (people.empty() ? 0 : people.rbegin()->first) + 1;
-        Save save = insertOf(id, note());
-        save.person.detail = note();
-        return save;
-    }
-    auto chosen = people.begin();
-    std::advance(chosen, number(static_cast<unsigned>(people.size())));
-    if (choice == 9)
-        return {Save::Kind::Delete, chosen->first, {}};
-    Save save{Save::Kind::Update, chosen->first, chosen->second};
-    if (number(2) == 0)
-        save.person.name = "Name " + std::to_string(number(1000));
-    if (number(3) == 0)
-        save.person.notes = note();
-    if (number(3) == 0)
-        save.person.detail = note();
-    save.person.city = "City " + std::to_string(number(40));
-    return save;
+    return random() % 8 == 0 ? randomGroup(people, random) : randomOne(people, random);
 }
 
 void note(People &people, const Save &save)
 {
+    for (const Save &one : save.group)
+        note(people, one);
+    if (save.kind == Save::Kind::Group)
+        return;
     if (save.kind == Save::Kind::Delete)
         people.erase(save.id);
     else

@@ -23,9 +23,10 @@ struct Person {
 using People = std::map<int, Person>;
 
 struct Save {
-    enum class Kind { Insert, Update, Delete } kind = Kind::Insert;
+    enum class Kind { Insert, Update, Delete, Group } kind = Kind::Insert;
     int id = 0;
-    Person person; // as it is afterwards
+    Person person;             // as it is afterwards
+    std::vector<Save> group{}; // of different people, stored together
 };
 
 inline const std::string kPeoplePath = "/people.dbf";
@@ -33,6 +34,9 @@ inline const std::string kPeoplePath = "/people.dbf";
 // A disk with the empty table on it.
 std::unique_ptr<SimDisk> diskWithPeople();
 Save insertOf(int id, const std::string &notes = {});
+Save groupOf(std::vector<Save> saves);
+// Twenty inserts, an update and two deletions as one, for people 1 to 8.
+Save mixedGroup();
 // Any save that fits the people there are.
 Save randomSave(const People &people, std::mt19937 &random);
 void note(People &people, const Save &save);

@@ -68,6 +68,7 @@ std::vector<Case> cases()
             {"DeleteOfAll", inserts(1, 8, "a text"), deletes(1, 8)},
             {"Purge", inserts(1, 60, "a text"), deletes(21, 40)},
             {"Import", inserts(1, 8), inserts(9, 28, "a text")},
+            {"Group", inserts(1, 8, "a text"), {mixedGroup()}},
             {"Checkpoint", inserts(1, 61, std::string(2900, 'n')), inserts(62, 62, "n")},
             {"LeafSplit", inserts(1, 30), {}, Split::Leaf},
             {"RootSplit", inserts(1, 30), {}, Split::Root}};

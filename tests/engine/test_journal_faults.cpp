@@ -83,6 +83,14 @@ TEST_P(JournalFaults, Delete)
     failEach({insertOf(1, "x"), insertOf(2)}, {Save::Kind::Delete, 1, {}});
 }
 
+TEST_P(JournalFaults, Group)
+{
+    std::vector<Save> before;
+    for (int id = 1; id <= 8; ++id)
+        before.push_back(insertOf(id, "x"));
+    failEach(before, mixedGroup());
+}
+
 TEST_P(JournalFaults, Checkpoint)
 {
     std::vector<Save> before;

@@ -32,6 +32,14 @@ bool fill(Handle session, Handle table, const Person &person)
 bool store(Handle session, Handle table, const Save &save)
 {
     bool done = false;
+    if (save.kind == Save::Kind::Group) {
+        done = d4groupBegin(table) == r4success;
+        for (const Save &one : save.group)
+            done = done && store(session, table, one);
+        done = done && d4groupEnd(table) == r4success;
+        (void)d4groupDrop(table);
+        return done;
+    }
     if (save.kind == Save::Kind::Insert) {
         if (d4appendStartVB(table, 0) == r4success && d4blank(table) == r4success) {
             code4errorCode(session, 0);
@@ -71,6 +79,7 @@ std::vector<Work> works()
     return {{"Insert", {insertOf(4, "a text")}, false, false, false},
             {"Update", {update}},
             {"Delete", {remove}},
+            {"Group", {groupOf({insertOf(4, "a text"), update, remove, insertOf(5)})}},
             {"Look", {}},
             {"Alone", {insertOf(4, "a text"), update, remove, insertOf(5)}, true},
             {"Reindex", {}, true, true}};

@@ -96,6 +96,24 @@ Code d4append(Handle table)
     return answerOf(table, [&](Table &rows) { return rows.append(); });
 }
 
+Code d4groupBegin(Handle table)
+{
+    return answerOf(table, [](Table &rows) {
+        rows.beginGroup();
+        return Status();
+    });
+}
+
+Code d4groupEnd(Handle table)
+{
+    return answerOf(table, [](Table &rows) { return rows.endGroup(); });
+}
+
+Code d4groupDrop(Handle table)
+{
+    return answerOf(table, [](Table &rows) { return rows.dropGroup(); });
+}
+
 Code d4reindex(Handle table)
 {
     return answerOf(table, [&](Table &rows) { return rows.reindex(); });

@@ -18,7 +18,7 @@ constexpr std::uint32_t kRecordMagic = 0x3152564E; // "NVR1"
 constexpr std::size_t kRecordHead = 32;
 constexpr std::size_t kPieceHead = 16;
 constexpr std::uint64_t kMostSaves = std::uint64_t{1} << 62;
-constexpr std::uint64_t kLongJournal = 4 * kJournalSize;
+constexpr std::uint64_t kLongJournal = 64 * kJournalSize; // some groups of a thousand rows
 
 using HeaderBytes = std::array<Byte, kHeaderLength>;
 

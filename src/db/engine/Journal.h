@@ -78,7 +78,7 @@ public:
     // The records of the header's salt from `offset` on, up to the first that is none.
     Result<std::vector<JournalRecord>> records(const JournalHeader &header, std::uint64_t offset,
                                                std::uint64_t number);
-    // After a checkpoint: gives back what a very long text took.
+    // After a checkpoint: gives back what very long records took.
     void shrink();
     bool onNetwork() { return m_file && m_file->onNetwork(); }
 

@@ -54,6 +54,7 @@ Status Table::close()
     if (!m_files)
         return {};
     Status status = unlock();
+    (void)dropGroup();
     if (m_exclusive) {
         const Status left = m_files->leaveExclusive();
         if (status.ok())

@@ -1,7 +1,7 @@
 // One open handle on a table: a row buffer, a place in an order, locks and a pending change.
 //
 // Sections follow the source files: Table.cpp, TableAhead.cpp, TableMove.cpp, TableLock.cpp,
-// TableWrite.cpp, TableFields.cpp. Words of the contract are in engine.h.
+// TableWrite.cpp, TableGroup.cpp, TableFields.cpp. Words of the contract are in engine.h.
 #pragma once
 
 #include "db/engine/engine.h"
@@ -12,6 +12,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace norvane::engine
@@ -66,6 +67,14 @@ public:
     // Forgets what was assigned and not stored.
     void discard();
 
+    // ---- many rows as one save (TableGroup.cpp)
+    // What is stored or appended from here on waits in memory, the locks of its rows are kept.
+    // A row that waits cannot be changed again.
+    void beginGroup();
+    // Stores all that waits, or nothing of it; in either case the locks go.
+    Status endGroup();
+    Status dropGroup();
+
     // ---- fields (TableFields.cpp); `field` is a position in the layout
     ByteView fieldBytes(int field) const;
     double number(int field) const;
@@ -86,6 +95,13 @@ private:
         int tag;
         std::string before; // empty: was not in the tag
         std::string after;  // empty: is not in the tag
+    };
+    struct Waiting {
+        std::uint32_t record; // 0: a new row
+        std::vector<Byte> row;
+        std::vector<std::pair<int, std::string>> texts; // changed ones, by field
+
+        bool isNew() const { return record == 0; }
     };
     enum class Direction { Forward, Backward };
 
@@ -161,6 +177,13 @@ private:
     void takeBackKeys(const std::vector<KeyChange> &changes, std::uint32_t record);
     void rowStored(std::uint32_t record);
 
+    // TableGroup.cpp
+    bool waits(std::uint32_t record) const;
+    void addToGroup();
+    Status storeGroup(const std::vector<Waiting> &rows);
+    Status storeGroupLocked(const std::vector<Waiting> &rows);
+    Result<std::vector<std::uint32_t>> placeTexts(const std::vector<Waiting> &rows);
+
     // TableFields.cpp
     Status putField(int field, std::string_view text);
     Result<std::uint32_t> memoBlock(int field) const;
@@ -206,6 +229,9 @@ private:
     bool m_judges = true; // an entry that does not fit its row makes the index suspect
 
     std::vector<std::uint32_t> m_locks; // records, 0 for the append lock
+
+    bool m_grouping = false;
+    std::vector<Waiting> m_group;
 };
 
 } // namespace norvane::engine

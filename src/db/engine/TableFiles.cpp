@@ -295,9 +295,10 @@ Status TableFiles::readRows(std::uint32_t first, ByteSpan into)
     return {};
 }
 
-Status TableFiles::checkRoom()
+Status TableFiles::checkRoom(std::uint32_t rows)
 {
-    if (m_count < maxRecords(m_header.length, layout().recordLength))
+    const std::uint32_t most = maxRecords(m_header.length, layout().recordLength);
+    if (m_count < most && rows <= most - m_count)
         return checkCount(1); // one may be left of an append that is not yet taken back
     return Error{ErrorKind::TooLarge, path(), "the table is full"};
 }
@@ -314,7 +315,7 @@ void TableFiles::giveUp()
 {
     ++m_stamp;
     m_noJournal = false;
-    const bool changesRow = exclusive() && !m_pieces.empty() && !m_appends;
+    const bool changesRow = exclusive() && !m_pieces.empty() && m_newCount == 0;
     m_indexLost = m_indexLost || m_indexWaits > 0 || changesRow;
     m_indexWaits = 0;
     m_pieces.clear();

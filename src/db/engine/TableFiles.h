@@ -81,8 +81,9 @@ public:
     Status mendMemoHeader();
     // Reads rows into `into`; fewer bytes than asked for are Damaged.
     Status readRows(std::uint32_t first, ByteSpan into);
-    // Refuses a table that is full or has a wrong count. REQUIRES: a fresh count.
-    Status checkRoom();
+    // Refuses a table without room for so many more rows or with a wrong count. REQUIRES: a fresh
+    // count.
+    Status checkRoom(std::uint32_t rows = 1);
 
     // ---- one save (TableSave.cpp). REQUIRES: the commit lock, exclusive
     // Fails while the index cannot be opened again.
@@ -90,7 +91,7 @@ public:
     // Blocks for texts (none empty) behind all others.
     Result<std::vector<std::uint32_t>> putMemos(const std::vector<std::string_view> &texts);
     void putRow(std::uint32_t record, ByteView row);
-    // A row behind the last. REQUIRES: append lock.
+    // A row behind the last, of several each behind the one before. REQUIRES: append lock.
     void putNewRow(ByteView row);
     // Stores what was put and the changes of the index: all of it, or nothing when it fails.
     // While the table is held exclusively index changes and count collect in memory, and new rows
@@ -174,6 +175,8 @@ private:
     void nameTargets();
 
     // TableSave.cpp
+    void putHead();
+    void putNewRows();
     void putDate();
     bool dateIsOld() const;
     Status commitThroughJournal();
@@ -236,8 +239,9 @@ private:
     std::unique_ptr<IndexFile> m_index;
     std::unique_ptr<MemoFile> m_memo;
     std::unique_ptr<TableJournal> m_journal;
-    Pieces m_pieces; // of the save being put together
-    bool m_appends = false;
+    Pieces m_pieces;             // of the save being put together
+    std::vector<Byte> m_newRows; // of this save, one behind the other
+    std::uint32_t m_newCount = 0;
     bool m_noJournal = false; // at the index's change counter that m_index knows
     int m_lockDepth = 0;
     int m_exclusive = 0;

@@ -63,7 +63,8 @@ Status Table::unlock()
     const Status stored = storeForSure();
     if (!stored.ok())
         discard();
-    (void)unlockAll(); // what is stored stays stored
+    if (m_group.empty())
+        (void)unlockAll(); // what is stored stays stored
     return stored;
 }
 

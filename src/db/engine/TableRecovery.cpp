@@ -242,7 +242,8 @@ Status TableJournal::takeBackGrowth()
     return {};
 }
 
-// True when two rows or more lie behind the count: a save of ours leaves one at most.
+// True when two rows or more lie behind the count: a save of ours leaves one at most, several
+// only behind an end mark.
 Result<bool> TableJournal::foreignRowsBehind(std::uint32_t rows) const
 {
     const Result<std::uint64_t> size = m_files.at(Target::Table)->size();

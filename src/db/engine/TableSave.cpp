@@ -24,6 +24,8 @@ const LockPatience kMendPatience{100, 100ms, {}};
 Status TableFiles::beginSave()
 {
     m_pieces.clear();
+    m_newRows.clear();
+    m_newCount = 0;
     return reopenIndex();
 }
 
@@ -44,24 +46,46 @@ Result<std::vector<std::uint32_t>> TableFiles::putMemos(const std::vector<std::s
 
 void TableFiles::putRow(std::uint32_t record, ByteView row)
 {
-    m_appends = false;
     m_pieces.push_back(
         {Target::Table, false, m_header.rowPlace(record), {row.begin(), row.end()}, {}});
-    if (dateIsOld())
-        putDate();
 }
 
 void TableFiles::putNewRow(ByteView row)
 {
-    m_appends = true;
-    std::vector<Byte> bytes(row.begin(), row.end());
-    bytes.push_back(kEndOfFile);
-    m_pieces.push_back({Target::Table, true, m_header.rowPlace(m_count + 1), std::move(bytes), {}});
-    if (exclusive())
-        return;
-    m_header.changed = today();
-    m_pieces.push_back(
-        {Target::Table, false, kCountPlace, makeDateAndCount(m_header.changed, m_count + 1), {}});
+    m_newRows.insert(m_newRows.end(), row.begin(), row.end());
+    ++m_newCount;
+}
+
+// One row that is left behind the count is known to be of a save that was not to be. Several would
+// be taken for those of another program: so they lie behind an end mark until they count.
+void TableFiles::putNewRows()
+{
+    const std::uint64_t place = m_header.rowPlace(m_count + 1);
+    const Byte flag = m_newRows.front();
+    const bool several = m_newCount > 1;
+    if (several)
+        m_newRows.front() = kEndOfFile;
+    m_newRows.push_back(kEndOfFile);
+    m_pieces.push_back({Target::Table, true, place, std::move(m_newRows), {}});
+    m_newRows = {};
+    if (!exclusive()) {
+        m_header.changed = today();
+        m_pieces.push_back({Target::Table,
+                            false,
+                            kCountPlace,
+                            makeDateAndCount(m_header.changed, m_count + m_newCount),
+                            {}});
+    }
+    if (several)
+        m_pieces.push_back({Target::Table, false, place, {flag}, {}});
+}
+
+void TableFiles::putHead()
+{
+    if (m_newCount > 0)
+        putNewRows();
+    else if (dateIsOld())
+        putDate();
 }
 
 // The header's date of change is this day's after any write.
@@ -86,12 +110,14 @@ Status TableFiles::commitSave()
 {
     ++m_stamp;
     m_tagsAreNew = false;
-    const std::uint32_t rows = m_count + 1;
+    putHead();
+    const bool appends = m_newCount > 0;
+    const std::uint32_t rows = m_count + m_newCount;
     Status status = exclusive() ? writePast() : commitThroughJournal();
     m_pieces.clear();
     if (!status.ok())
         return status;
-    if (m_appends) {
+    if (appends) {
         m_count = rows; // a save finished by recover() is counted already
         m_claimed = m_count;
         m_size = m_header.rowPlace(m_count + 1) + 1;
@@ -99,8 +125,8 @@ Status TableFiles::commitSave()
     }
     if (!exclusive() || !m_index)
         return {};
-    if (m_appends)
-        ++m_unkeyed;
+    if (appends)
+        m_unkeyed += m_newCount;
     else if (++m_indexWaits >= kMostWaiting)
         return flush();
     return {};
@@ -142,7 +168,7 @@ Status TableFiles::writePast()
     for (const Piece &piece : m_pieces) {
         File &file = piece.target == Target::Memo ? m_memo->file() : m_table.file();
         Status status = file.write(piece.offset, piece.bytes);
-        if (status.ok() && m_appends && piece.target == Target::Table && m_size > piece.end())
+        if (status.ok() && m_newCount > 0 && piece.target == Target::Table && m_size > piece.end())
             status = file.resize(piece.end());
         if (!status.ok()) {
             takeBackPast();

@@ -23,6 +23,8 @@ Status Table::beginChange()
         if (Status status = lock(m_recNo); !status.ok())
             return status;
     }
+    if (waits(m_recNo))
+        return Error{ErrorKind::Misuse, m_files->path(), "the row waits to be stored", m_recNo};
     // The row as it is in the file tells which keys have to go.
     if (!m_loadedLocked || m_rowStamp != m_files->stamp()) {
         if (Status status = reloadRow(); !status.ok())
@@ -85,6 +87,10 @@ Status Table::store()
         return Error{ErrorKind::Misuse, m_files->path(), "the row is not locked", m_recNo};
     if (m_row == m_stored && !memosChanged()) {
         m_changed = false;
+        return {};
+    }
+    if (m_grouping) {
+        addToGroup();
         return {};
     }
     const int placeTag = m_placeTag >= 0 ? m_placeTag : orderTag();
@@ -284,6 +290,10 @@ Status Table::append()
 {
     if (!m_appending)
         return Error{ErrorKind::Misuse, m_files->path(), "no row has been begun"};
+    if (m_grouping) {
+        addToGroup();
+        return {};
+    }
     bool moved = false;
     Status status = appendOnce(moved);
     while (status.ok() && moved)

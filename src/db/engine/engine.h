@@ -93,7 +93,14 @@ bool d4deleted(Handle table);
 // a move forgets it.
 Code d4appendStartVB(Handle table, int useMemoEntries);
 Code d4blank(Handle table);
-Code d4append(Handle table);  // the new row is current and stays locked until d4unlock
+Code d4append(Handle table); // the new row is current and stays locked until d4unlock
+// Rows stored, deleted or appended from here on wait in memory. d4groupEnd stores all of them as
+// one save, or none; d4groupDrop and d4close forget them. Until then every reader finds the rows as
+// they were, changed rows stay locked and cannot be changed again, and after each of them the table
+// is on no row. Opened exclusively nothing waits.
+Code d4groupBegin(Handle table);
+Code d4groupEnd(Handle table);
+Code d4groupDrop(Handle table);
 Code d4reindex(Handle table); // REQUIRES: opened exclusively
 
 // ---- fields of the current row

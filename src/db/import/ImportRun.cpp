@@ -5,6 +5,7 @@
 #include "common/base/Host.h"
 #include "db/import/CsvReader.h"
 #include "db/import/CsvText.h"
+#include "db/TableUse.h"
 
 #include <algorithm>
 #include <utility>
@@ -12,8 +13,7 @@
 namespace
 {
 
-constexpr qint32 idsAtOnce = 100;
-constexpr qint32 rowsBetweenLooks = 1000;
+constexpr qint32 rowsInGroup = 1000;
 
 const clsImportColDef *columnNamed(const QString &heading, const clsImportColDefs &columns)
 {
@@ -90,7 +90,8 @@ bool ImportRun::importRows(const QString &path, const WaitDlg &progress)
         throw reader.failure();
     const schema::Table table =
         m_target == NewCustomers ? schema::Table::Customer : schema::Table::Category;
-    const clsDB::IdBlock ids(m_db, schema::table(table).dataFile(), idsAtOnce);
+    const clsDB::IdBlock ids(m_db, schema::table(table).dataFile(), rowsInGroup);
+    SaveGroup group(m_customers);
     bool good = true;
     qint32 rowNumber = 1;
     for (auto line = reader.readLine(); line; line = reader.readLine(), ++rowNumber) {
@@ -102,16 +103,33 @@ bool ImportRun::importRows(const QString &path, const WaitDlg &progress)
         const QString row = clsSystem::Trim(*line);
         if (rowNumber == 1 || row.isEmpty())
             continue;
-        if (m_result.tried % rowsBetweenLooks == 0)
-            m_entries.clear();
         ++m_result.tried;
         const QStringList values = SplitCsvRowForStoring(row);
         const bool added = m_target == NewCustomers ? AddCustomer(values) : AddCategory(values);
         good = added && good;
+        if (m_result.tried % rowsInGroup == 0) {
+            good = storeWaiting(group) && good;
+            m_entries.clear();
+        }
     }
+    good = storeWaiting(group) && good;
     if (reader.failed())
         throw reader.failure();
     return good;
+}
+
+// What waits goes in together.
+bool ImportRun::storeWaiting(SaveGroup &group)
+{
+    const std::vector<qint32> rowids = std::exchange(m_waiting, {});
+    if (rowids.empty())
+        return true;
+    const LockAttempts tenAttempts(m_db.CBEngine());
+    if (!group.store())
+        return false;
+    for (const qint32 rowid : rowids)
+        noteStored(rowid);
+    return true;
 }
 
 int ImportRun::percentOf(qint32 rowNumber) const
@@ -137,7 +155,7 @@ bool ImportRun::AddCustomer(const QStringList &values)
         record.setExisting(lastname, QStringLiteral("Un-named"));
     if (!m_db.SaveRecord(record, false, m_customers))
         return false;
-    noteStored(record.number(QStringLiteral("_rowid")));
+    m_waiting.push_back(record.number(QStringLiteral("_rowid")));
     return true;
 }
 

@@ -1,5 +1,6 @@
 // Writes a checked file into the open database, one record a row, tables opened once for the
-// whole run. Nothing is undone when a row fails, and the rows after it are tried all the same.
+// whole run. New customers go in a thousand at a time: all of them or, when their save fails, none.
+// Nothing stored is undone when rows fail, and the rows after them are tried all the same.
 #pragma once
 
 #include "common/base/clsSystem.h"
@@ -12,6 +13,9 @@
 
 #include <functional>
 #include <utility>
+#include <vector>
+
+class SaveGroup;
 
 struct ImportResult {
     bool ok = false;    // everything could be opened and every row went in
@@ -39,6 +43,7 @@ private:
     QString openTables();
     void closeTables();
     bool AddCustomer(const QStringList &values);
+    bool storeWaiting(SaveGroup &group);
     bool AddCategory(const QStringList &values);
     qint32 entry(const QString &text, int listType);
     void noteStored(qint32 rowid);
@@ -50,6 +55,7 @@ private:
     qint32 m_rowCount;
     clsImportColDefs m_columns;
     std::function<void(qint32)> m_onStored;
+    std::vector<qint32> m_waiting; // rowids of customers whose save is to come
     clsDB::Handle m_customers = 0;
     clsDB::Handle m_categories = 0;
     QHash<std::pair<int, QString>, qint32> m_entries; // of lists, met lately
