@@ -31,7 +31,7 @@ RecColl::RecColl(const QString &tablePath, const QString &tableName, qint32 rowi
 const RecColl::Item *RecColl::find(const QString &key) const
 {
     const auto at = std::find_if(m_items.begin(), m_items.end(), [&](const Item &item) {
-        return item.key.compare(key, Qt::CaseInsensitive) == 0;
+        return item.key.size() == key.size() && item.key.compare(key, Qt::CaseInsensitive) == 0;
     });
     return at == m_items.end() ? nullptr : &*at;
 }

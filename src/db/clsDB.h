@@ -13,7 +13,6 @@
 #include "db/Schema.h"
 #include "db/StationWatch.h"
 
-#include <QDateTime>
 #include <QString>
 #include <QStringList>
 
@@ -327,7 +326,7 @@ private:
     QStringList m_told; // paths and texts, while telling once
     norvane::engine::FileSystem *m_files = nullptr;
     StationWatch m_watch;
-    QDateTime m_lastBeat;
+    qint64 m_lastBeat = 0; // host().ticks()
     QString m_readOnlyReason; // empty: changes may be saved
     QString m_readOnlyNotice; // still to be told
     bool m_bIsOpen = false;

@@ -159,8 +159,6 @@ clsDB::IdBlock::~IdBlock()
 
 qint32 clsDB::IdBlock::next()
 {
-    if (!m_db.MayWrite())
-        return -1;
     if (m_next >= m_end) {
         const qint32 first = m_db.takeIDs(m_table, m_size);
         if (first < 1)

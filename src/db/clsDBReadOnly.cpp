@@ -29,7 +29,7 @@ bool clsDB::startWatch(bool thorough)
 {
     const QString path = clsSystem::LocalPath(MakePath(m_sDBPath, StationFile));
     const bool isNew = !QFile::exists(path);
-    m_lastBeat = host().now();
+    m_lastBeat = host().ticks();
     StationWatch::Finding found =
         m_watch.start(m_files ? *m_files : systemFiles(), path.toStdString());
     // Whoever may write to the tables counts in it too.
@@ -53,9 +53,8 @@ bool clsDB::startWatch(bool thorough)
 
 void clsDB::WatchStations()
 {
-    const QDateTime now = host().now();
-    // A clock that was put back must not stop the watch.
-    const qint64 apart = std::abs(m_lastBeat.msecsTo(now));
+    const qint64 now = host().ticks();
+    const qint64 apart = now - m_lastBeat;
     if (m_hSession < 1 || apart < std::chrono::milliseconds(StationWatch::Interval).count())
         return;
     m_lastBeat = now;

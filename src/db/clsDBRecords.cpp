@@ -151,18 +151,18 @@ void clsDB::addLockInfo(std::vector<Write> &writes, const RecColl &record, Handl
 void clsDB::addLastEdit(std::vector<Write> &writes, Handle table) const
 {
     const QDateTime now = host().now();
+    // The two are as they are stored.
     writes.push_back({fieldOf(table, "lastmodby"), FieldKind::Integer, m_nLoginID});
     writes.push_back(
-        {fieldOf(table, "lastmoddt"), FieldKind::Date, now.date().toString(u"yyyyMMdd")});
+        {fieldOf(table, "lastmoddt"), FieldKind::Text, now.date().toString(u"yyyyMMdd")});
     writes.push_back(
-        {fieldOf(table, "lastmodtm"), FieldKind::Time, now.time().toString(u"hh:mm:ss")});
+        {fieldOf(table, "lastmodtm"), FieldKind::Text, now.time().toString(u"hh:mm:ss")});
 }
 
 void clsDB::AssignValue(Handle field, const QString &value, FieldKind kind)
 {
     if (field < 1)
         return;
-    const std::optional<double> number = NumberInText(value);
     switch (kind) {
     case FieldKind::Text:
         AssignText(field, value);
@@ -175,11 +175,11 @@ void clsDB::AssignValue(Handle field, const QString &value, FieldKind kind)
         break;
     case FieldKind::Number:
     case FieldKind::Integer:
-        if (number)
+        if (const auto number = NumberInText(value))
             f4assignDouble(field, *number);
         break;
     case FieldKind::Flag:
-        if (number)
+        if (const auto number = NumberInText(value))
             AssignText(field, clsSystem::Bool2TorF(*number != 0));
         break;
     case FieldKind::Memo:

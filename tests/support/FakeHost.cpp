@@ -8,6 +8,7 @@ FakeHost::FakeHost()
 {
     Host &fake = host();
     fake.now = [this] { return m_now; };
+    fake.ticks = [this] { return m_now.toMSecsSinceEpoch(); };
     fake.computerName = [this] { return m_computerName; };
     fake.locale = [this] { return m_locale; };
     fake.setBusy = [this](bool busy) { m_busy = busy; };

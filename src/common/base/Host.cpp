@@ -5,6 +5,8 @@
 #include <QSet>
 #include <QSysInfo>
 
+#include <chrono>
+
 namespace
 {
 
@@ -67,6 +69,10 @@ Host machineHost()
 {
     Host host;
     host.now = [] { return QDateTime::currentDateTime(); };
+    host.ticks = [] {
+        const auto now = std::chrono::steady_clock::now().time_since_epoch();
+        return std::chrono::duration_cast<std::chrono::milliseconds>(now).count();
+    };
     host.computerName = [] { return QSysInfo::machineHostName(); };
     host.locale = regionalSettings;
     host.pumpEvents = letEventsThrough;

@@ -20,6 +20,8 @@ struct ProgramResult {
 
 struct Host {
     std::function<QDateTime()> now;
+    // Milliseconds of a clock that nobody sets.
+    std::function<qint64()> ticks;
     std::function<QString()> computerName; // as the system gives it
     // Regional settings; American English where the system has none.
     std::function<QLocale()> locale;
