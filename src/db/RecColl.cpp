@@ -55,6 +55,15 @@ bool RecColl::setExisting(const QString &key, const QVariant &value)
     return true;
 }
 
+bool RecColl::replace(const QString &key, const QVariant &value)
+{
+    const Item *item = find(key);
+    if (item == nullptr)
+        return false;
+    m_items[static_cast<std::size_t>(item - m_items.data())].value = value;
+    return true;
+}
+
 bool RecColl::contains(const QString &key) const
 {
     return find(key) != nullptr;

@@ -20,6 +20,8 @@ public:
     void add(const QString &key, const QVariant &value);
     // Removes the key and adds it anew at the end; false when it is not there.
     bool setExisting(const QString &key, const QVariant &value);
+    // Gives a key that is there another value and leaves it in its place; false when it is not.
+    bool replace(const QString &key, const QVariant &value);
     bool contains(const QString &key) const;
     // A missing key is a Failure, which ends the procedure that asked.
     const QVariant &value(const QString &key) const;

@@ -13,7 +13,8 @@
 namespace
 {
 
-constexpr qint32 rowsInGroup = 1000;
+// Others wait for a group as long as for a few saves.
+constexpr qint32 rowsInGroup = 2000;
 
 const clsImportColDef *columnNamed(const QString &heading, const clsImportColDefs &columns)
 {
@@ -31,7 +32,8 @@ ImportRun::ImportRun(clsDB &db, qint32 target, QStringList headings, qint32 rowC
       m_target(target),
       m_headings(std::move(headings)),
       m_rowCount(rowCount),
-      m_columns(columns(target))
+      m_columns(columns(target)),
+      m_blank(db.NewCustomerRecColl())
 {
 }
 
@@ -139,20 +141,20 @@ int ImportRun::percentOf(qint32 rowNumber) const
 
 bool ImportRun::AddCustomer(const QStringList &values)
 {
-    RecColl record = m_db.NewCustomerRecColl();
+    RecColl record = m_blank;
     const qsizetype count = std::min(values.size(), m_headings.size());
     for (qsizetype i = 0; i < count; ++i) {
         const clsImportColDef *def = columnNamed(m_headings[i], m_columns);
         if (def == nullptr)
             continue;
         if (def->lookupType == 0)
-            record.setExisting(def->target, values[i]);
+            record.replace(def->target, values[i]);
         else
-            record.setExisting(def->target, entry(values[i], def->lookupType));
+            record.replace(def->target, entry(values[i], def->lookupType));
     }
     const QString lastname = QStringLiteral("lastname");
     if (record.text(lastname).isEmpty() && record.text(QStringLiteral("company")).isEmpty())
-        record.setExisting(lastname, QStringLiteral("Un-named"));
+        record.replace(lastname, QStringLiteral("Un-named"));
     if (!m_db.SaveRecord(record, false, m_customers))
         return false;
     m_waiting.push_back(record.number(QStringLiteral("_rowid")));

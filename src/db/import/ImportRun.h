@@ -1,5 +1,5 @@
 // Writes a checked file into the open database, one record a row, tables opened once for the
-// whole run. New customers go in a thousand at a time: all of them or, when their save fails, none.
+// whole run. New customers go in two thousand at a time: all of them or, when their save fails, none.
 // Nothing stored is undone when rows fail, and the rows after them are tried all the same.
 #pragma once
 
@@ -54,6 +54,7 @@ private:
     QStringList m_headings;
     qint32 m_rowCount;
     clsImportColDefs m_columns;
+    RecColl m_blank; // a new customer
     std::function<void(qint32)> m_onStored;
     std::vector<qint32> m_waiting; // rowids of customers whose save is to come
     clsDB::Handle m_customers = 0;
