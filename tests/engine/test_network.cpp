@@ -52,11 +52,16 @@ TEST(NetworkFolder, HostsThatKeepTheTableOpenSeeAndKeepEachOthersSaves)
         if (dies)
             one->session.station.dieAt(static_cast<int>(random() % 60) + 1);
         const bool done = one->session.perform(save);
+        const std::vector<Save> saves = save.group.empty() ? std::vector{save} : save.group;
         const auto in = [&](const People &all) {
-            const auto found = all.find(save.id);
-            return found == all.end() ? Person() : found->second;
+            std::vector<Person> found;
+            for (const Save &each : saves)
+                found.push_back(all.count(each.id) == 0 ? Person() : all.at(each.id));
+            return found;
         };
-        const Person seen = other.shown(save.id);
+        std::vector<Person> seen;
+        for (const Save &each : saves)
+            seen.push_back(other.shown(each.id));
         if (seen == in(after)) {
             people = after;
         } else {

@@ -12,6 +12,7 @@ namespace
 {
 
 constexpr int maxBadRows = 50;
+constexpr qsizetype maxLineShown = 10000; // characters; nobody reads more in a message
 constexpr int rowsBetweenEvents = 100;
 
 enum Kind { Text = 0, Numeric = 1, NumericToo = 2, YesNo = 3, Date = 4 };
@@ -85,7 +86,7 @@ QString missingData(qint32 rowNumber, const QString &row)
     return clsImportData::FmtRowNum(rowNumber) +
            QLatin1String(": Missing data. Number of entries on this row do NOT equal the number "
                          "of columns on the first row. LINE CONTENT: ") +
-           QString(row).replace(csvDelimiter, u',') + clsSystem::CRLF();
+           row.left(maxLineShown).replace(csvDelimiter, u',') + clsSystem::CRLF();
 }
 
 QString headingFaults(const clsImportColDefs &columns, const QStringList &headings)
