@@ -41,6 +41,7 @@ bool Startup::run()
     step([this] { showMain(); });
     step([this] { openDatabase(); });
     step([this] { m_main->SetUI(); });
+    step([this] { m_main->reopenWindows(); });
     step([this] { m_main->showStartupHelp(); });
     return true;
 }

@@ -10,6 +10,7 @@
 #include "db/Screens.h"
 #include "shell/clsWndStartupPos.h"
 #include "shell/frmLogin.h"
+#include "shell/RecentFolders.h"
 #include "shell/StatusPanel.h"
 #include "ui_frmMain.h"
 
@@ -84,6 +85,8 @@ void frmMain::setAreaColour()
 
 void frmMain::SetUI()
 {
+    if (gDB.IsOpen())
+        recentfolders::note(gDB.DBPath());
     SetMenus();
     SetStatusBar();
     SetWindowCaption();
@@ -94,6 +97,9 @@ void frmMain::SetMenus()
     const bool open = gDB.IsOpen();
     for (const char *name : {"mnuFileNew", "mnuFileOpen"})
         command(QLatin1String(name))->setEnabled(!open);
+    menuNamed(QStringLiteral("mnuFileRecent"))
+        ->menuAction()
+        ->setEnabled(!recentfolders::list().isEmpty());
     for (const char *name : {"mnuFileClose", "mnuFileChangePWD", "mnuDisplayDataFolder"})
         command(QLatin1String(name))->setEnabled(open);
     for (const char *name :
@@ -132,10 +138,13 @@ void frmMain::SetWindowCaption()
 // program stays.
 void frmMain::closeEvent(QCloseEvent *event)
 {
+    const QStringList windows = namesOfOpenWindows();
+    const QString owner = ownerOfWindows();
     if (!gDB.CloseDB()) {
         event->ignore();
         return;
     }
+    rememberWindows(windows, owner);
     clsWndStartupPos::SavePosition(this);
     event->accept();
 }

@@ -7,6 +7,7 @@
 // reports. frmMainHelp.cpp: Help. frmMainAdmin.cpp: users, passwords, import, purge and
 // statistics. frmMainLists.cpp: lookup lists.
 // frmMainMail.cpp: mail. frmMainWindows.cpp: child windows and the Window menu.
+// frmMainSession.cpp: the windows that the next start takes up again.
 #pragma once
 
 #include "common/ui/Switchboard.h"
@@ -66,6 +67,8 @@ public:
     void showHelp(int topic) override;
     void HelpCenter();
     void TipOfTheDay();
+    // The windows that were open when this person last left this database.
+    void reopenWindows();
     // What a person who has not said otherwise sees behind the start.
     void showStartupHelp();
 
@@ -128,6 +131,8 @@ private:
     void fileNew();
     void createDatabase();
     void fileOpen();
+    void fillRecentFolders();
+    void openRecent(const QString &folder);
     void fileClose();
     void displayDataFolder();
     void fileExit();
@@ -150,6 +155,10 @@ private:
     void fillWindowMenu();
     void listWindow(QMenu *menu, QMdiSubWindow *window, int number);
     void closeAllWindows();
+    QStringList namesOfOpenWindows() const;
+    static QString ownerOfWindows();
+    static void rememberWindows(const QStringList &names, const QString &owner);
+    void reopenWindow(const QString &name);
 
     std::unique_ptr<Ui::frmMain> ui;
     QTimer m_watch; // over the other stations' locks

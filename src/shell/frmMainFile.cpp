@@ -6,6 +6,10 @@
 #include "common/base/Failure.h"
 #include "common/base/Prompts.h"
 #include "db/clsDB.h"
+#include "shell/RecentFolders.h"
+
+#include <QFileInfo>
+#include <QMenu>
 
 namespace
 {
@@ -74,6 +78,32 @@ void frmMain::fileOpen()
         if (folder.isEmpty())
             return;
         gDB.OpenDB(folder);
+        SetUI();
+    });
+}
+
+void frmMain::fillRecentFolders()
+{
+    QMenu *menu = menuNamed(QStringLiteral("mnuFileRecent"));
+    menu->clear();
+    int number = 0;
+    for (const QString &folder : recentfolders::list()) {
+        QString text = folder;
+        text.replace(u'&', QLatin1String("&&"));
+        QAction *entry = menu->addAction(u'&' + QString::number(++number) + u' ' + text);
+        entry->setCheckable(true);
+        entry->setChecked(gDB.IsOpen() && folder == gDB.DBPath());
+        connect(entry, &QAction::triggered, this, [this, folder] { openRecent(folder); });
+    }
+}
+
+void frmMain::openRecent(const QString &folder)
+{
+    guarded("frmMain_openRecent", [this, &folder] {
+        if (gDB.IsOpen() && (folder == gDB.DBPath() || !gDB.CloseDB()))
+            return;
+        if (!gDB.OpenDB(folder) && !QFileInfo::exists(clsSystem::LocalPath(folder)))
+            recentfolders::forget(folder);
         SetUI();
     });
 }

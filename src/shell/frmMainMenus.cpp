@@ -39,6 +39,7 @@ const std::vector<frmMain::MenuLine> &frmMain::menuLines()
          "database-new"},
         {"mnuFile", "mnuFileOpen", QT_TR_NOOP("&Open Database..."), &frmMain::fileOpen,
          "database-open", "Ctrl+O"},
+        {"mnuFile", "mnuFileRecent", QT_TR_NOOP("&Recent Databases"), nullptr, "database-open"},
         {"mnuFile", "mnuFileClose", QT_TR_NOOP("Close Database"), &frmMain::fileClose,
          "database-close"},
         {"mnuFile"},
@@ -180,6 +181,8 @@ void frmMain::InitMenus()
     command(QStringLiteral("mnuHelpAbout"))->setMenuRole(QAction::AboutRole);
     connect(menuNamed(QStringLiteral("mnuWindow")), &QMenu::aboutToShow, this,
             &frmMain::fillWindowMenu);
+    connect(menuNamed(QStringLiteral("mnuFileRecent")), &QMenu::aboutToShow, this,
+            &frmMain::fillRecentFolders);
 }
 
 void frmMain::addMenuLine(const MenuLine &line)

@@ -8,6 +8,7 @@
 
 #include <QDir>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
@@ -146,4 +147,70 @@ TEST_F(FileCommands, AWindowThatRefusesKeepsDatabaseAndProgramOpen)
     EXPECT_FALSE(main->isVisible());
     EXPECT_FALSE(gDB.IsOpen());
     EXPECT_EQ(GetPrefLong("width"), main->width());
+}
+
+TEST_F(FileCommands, RecentDatabasesAreOpenedAgainAndForgottenWhenTheyAreGone)
+{
+    SetPrefStr("recentdb1", "/no/longer/there");
+    openWithDatabase();
+    main->SetUI();
+    auto *menu = find<QMenu>("mnuFileRecent");
+    const auto entries = [&] {
+        Q_EMIT menu->aboutToShow();
+        QStringList texts;
+        for (const QAction *entry : menu->actions())
+            texts << entry->text();
+        return texts;
+    };
+    const QString here = gDB.DBPath();
+    EXPECT_EQ(entries(), QStringList({"&1 " + here, "&2 /no/longer/there"}));
+    EXPECT_TRUE(menu->actions()[0]->isChecked());
+
+    // What is not saved keeps the database open.
+    editCustomer();
+    person.expect(discard, Answer::No);
+    menu->actions()[1]->trigger();
+    EXPECT_EQ(gDB.DBPath(), here);
+
+    person.expect(discard, Answer::Yes);
+    person.expectText("OPEN FAILED!");
+    menu->actions()[1]->trigger();
+    EXPECT_FALSE(gDB.IsOpen());
+    EXPECT_EQ(entries(), QStringList("&1 " + here));
+
+    const DialogDriver login(pressOk);
+    menu->actions()[0]->trigger();
+    EXPECT_EQ(gDB.DBPath(), here);
+}
+
+TEST_F(FileCommands, TheNextStartTakesUpTheWindowsOfTheLastOne)
+{
+    openWithDatabase();
+    const qint32 kept = database->addCustomer({{"lastname", "Smith"}});
+    const qint32 deleted = database->addCustomer({{"lastname", "Gone"}});
+    main->ShowCustomer(kept, false);
+    main->ShowCustomer(deleted, false);
+    main->ShowCustomer(-1, true); // a new one is not taken up
+    main->MyIssues();
+    person.expect(discard, Answer::Yes);
+    choose("mnuFileExit");
+    ASSERT_FALSE(main->isVisible());
+
+    const auto startAgain = [this](const QString &login) {
+        main.reset();
+        database->loginAs(login, login.toLower());
+        main = std::make_unique<frmMain>();
+        main->show();
+    };
+    startAgain("SYSOP");
+    ASSERT_TRUE(gDB.DeleteRecord(deleted, gDB.CustomerTable()));
+    main->reopenWindows();
+    EXPECT_EQ(openTags(), QStringList({u'C' + QString::number(kept), "MYISSUES"}));
+
+    choose("mnuFileExit");
+    database->loginAs("SYSOP", "sysop");
+    database->addUser("JANE", "1111");
+    startAgain("JANE");
+    main->reopenWindows();
+    EXPECT_EQ(openTags(), QStringList()) << "another person begins anew";
 }
