@@ -3,6 +3,7 @@
 #include "common/ui/HelpPage.h"
 #include "common/ui/HelpText.h"
 
+#include <QRegularExpression>
 #include <QScreen>
 #include <QVBoxLayout>
 
@@ -15,7 +16,9 @@ HelpPopup::HelpPopup(const QString &file, int topic, QWidget *parent) : QFrame(p
     page->setFrameShape(QFrame::NoFrame);
     page->setAccessibleName(tr("Help"));
     page->read(file);
-    const QString chapter = chapterHtml(*page->document(), helpAnchor(topic));
+    QString chapter = chapterHtml(*page->document(), helpAnchor(topic));
+    // Its pictures are wider than this.
+    chapter.remove(QRegularExpression(QStringLiteral("<img [^>]*>")));
     if (!chapter.isEmpty())
         page->setHtml(chapter);
     auto *layout = new QVBoxLayout(this);

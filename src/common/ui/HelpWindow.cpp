@@ -41,7 +41,9 @@ HelpWindow::HelpWindow(const QString &file, QWidget *parent)
     fillContents();
     buildLayout();
     const QSize letters(fontMetrics().averageCharWidth(), fontMetrics().height());
-    resize(QSize(letters.width() * 130, letters.height() * 36)
+    // The pictures of the manual are 600 pixels wide.
+    const int page = qMax(letters.width() * 80, 680);
+    resize(QSize(letters.width() * 50 + page, letters.height() * 44)
                .boundedTo(screen()->availableSize() * 9 / 10));
 }
 
