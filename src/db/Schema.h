@@ -36,6 +36,7 @@ struct TableInfo {
     QString dataFile() const { return baseName + u".dbf"; }
     QString indexFile() const { return baseName + u".cdx"; }
     QString memoFile() const { return baseName + u".fpt"; }
+    QString journalFile() const { return baseName + u".nvj"; } // made by the first save
     // Existing files of a folder for this table, in the order data, index, memo.
     QStringList files() const;
     QStringList templateFiles() const; // ".db_", ".cd_", ".fp_", same order

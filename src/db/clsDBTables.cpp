@@ -39,7 +39,7 @@ bool clsDB::isTableOfOurs(const QString &path) const
 void clsDB::lookAtTables()
 {
     for (const schema::TableInfo &table : schema::tables()) {
-        for (const QString &name : table.files())
+        for (const QString &name : table.files() + QStringList(table.journalFile()))
             lookAtRight(MakePath(m_sDBPath, name));
         const Handle handle =
             d4open(m_hSession, clsSystem::LocalPath(TablePath(table.table)).toStdString());

@@ -202,31 +202,43 @@ TEST_F(Damage, AFolderThatVanishesAndComesBackNeedsNoRestart)
     EXPECT_TRUE(gDB.SaveRecord(fresh));
 }
 
-// An administrator may do everything, so the test becomes nobody for that long.
+// Of the whole folder, or of one file in it. An administrator may do everything, so the test
+// becomes nobody for that long.
 TEST_F(Damage, WithoutTheRightToChangeItsFilesADatabaseIsForReading)
 {
-    gDB.CloseDB();
-    ASSERT_EQ(::chmod(QFile::encodeName(db.path()).constData(), 0555), 0);
-    for (const QFileInfo &file : QDir(db.path()).entryInfoList(QDir::Files))
-        ASSERT_EQ(::chmod(QFile::encodeName(file.filePath()).constData(), 0444), 0);
     const bool administrator = ::getuid() == 0;
-    if (administrator) {
-        ASSERT_EQ(::setresuid(65534, 65534, 0), 0);
+    const auto allow = [this](const QString &name, mode_t rights) {
+        ASSERT_EQ(::chmod(QFile::encodeName(db.file(name)).constData(), rights), 0);
+    };
+    for (const QString &only : {QString(), u"nvncust.cdx"_s, u"nvncust.fpt"_s, u"nvncust.nvj"_s}) {
+        SCOPED_TRACE(only.toStdString());
+        gDB.CloseDB();
+        for (const QString &name : QDir(db.path()).entryList(QDir::Files))
+            allow(name, only.isEmpty() || name == only ? 0444 : 0666);
+        allow(u"."_s, only.isEmpty() ? 0555 : 0777);
+        const QStringList names = QDir(db.path()).entryList(QDir::Files);
+        if (administrator) {
+            ASSERT_EQ(::setresuid(65534, 65534, 0), 0);
+        }
+        const QStringList opening =
+            told([this] { EXPECT_TRUE(gDB.OpenUnattended(db.path(), u"SYSOP"_s, u"sysop"_s)); });
+        RecColl row = record(u"_customer"_s, id);
+        EXPECT_TRUE(gDB.ReadRecord(row));
+        const QStringList writing = told([] { EXPECT_FALSE(gDB.MayWrite()); });
+        gDB.CloseDB();
+        if (administrator) {
+            ASSERT_EQ(::setresuid(0, 0, 0), 0);
+        }
+        allow(u"."_s, 0755);
+        ASSERT_EQ(opening.size(), 1) << qPrintable(opening.join(u'\n'));
+        EXPECT_TRUE(opening[0].startsWith(u"You have no right to change the file '"_s +
+                                          (only.isEmpty() ? QString() : db.file(only) + u"'")));
+        ASSERT_EQ(writing.size(), 1);
+        EXPECT_TRUE(writing[0].contains(u"because you have no right to change the file"));
+        QFile::remove(db.file(u"nvnstations.nvs"_s));
+        EXPECT_EQ(QDir(db.path()).entryList(QDir::Files).size(),
+                  names.size() - names.count(u"nvnstations.nvs"_s));
     }
-    const QStringList opening =
-        told([this] { EXPECT_TRUE(gDB.OpenUnattended(db.path(), u"SYSOP"_s, u"sysop"_s)); });
-    RecColl row = record(u"_customer"_s, id);
-    EXPECT_TRUE(gDB.ReadRecord(row));
-    const QStringList writing = told([] { EXPECT_FALSE(gDB.MayWrite()); });
-    gDB.CloseDB();
-    if (administrator) {
-        ASSERT_EQ(::setresuid(0, 0, 0), 0);
-    }
-    ::chmod(QFile::encodeName(db.path()).constData(), 0755);
-    ASSERT_EQ(opening.size(), 1) << qPrintable(opening.join(u'\n'));
-    EXPECT_TRUE(opening[0].startsWith(u"You have no right to change the file"));
-    ASSERT_EQ(writing.size(), 1);
-    EXPECT_TRUE(writing[0].contains(u"because you have no right to change the file"));
 }
 
 TEST_F(Damage, AFailureSaysWhatIsWrongAndWhatToDo)

@@ -88,11 +88,22 @@ void TableFiles::nameTargets()
                               m_indexFile ? &m_indexFile->file() : nullptr}});
 }
 
+const std::string *TableFiles::refusingFile()
+{
+    if (m_table.file().readOnly())
+        return &path();
+    if (m_memo && m_memo->file().readOnly())
+        return &m_memo->path();
+    if (m_indexFile && m_indexFile->file().readOnly())
+        return &m_indexFile->file().path();
+    return m_refusingJournal.empty() ? nullptr : &m_refusingJournal;
+}
+
 Status TableFiles::openBeside()
 {
-    const bool onlyRead = readOnly();
     if (m_header.hasMemo()) {
-        Result<std::unique_ptr<File>> memo = openAny(m_system, besidePath(path(), "fpt"), onlyRead);
+        Result<std::unique_ptr<File>> memo =
+            openAny(m_system, besidePath(path(), "fpt"), readOnly());
         if (!memo.ok())
             return memo.error();
         m_memo = std::make_unique<MemoFile>(std::shared_ptr<File>(std::move(*memo)));
@@ -141,6 +152,8 @@ Status TableFiles::reopenIndex()
 
 Status TableFiles::enterExclusive()
 {
+    if (Status status = refuseReader(); !status.ok())
+        return status;
     if (Status status = m_table.tryLock(kOpenByte, LockMode::Exclusive); !status.ok())
         return status;
     if (++m_exclusive > 1)
@@ -241,10 +254,17 @@ Result<std::uint32_t> TableFiles::rowsBehind(std::uint32_t most)
     return rows;
 }
 
+Status TableFiles::refuseReader()
+{
+    const std::string *file = refusingFile();
+    return file ? Error{ErrorKind::ReadOnly, *file, "the table is open for reading only"}
+                : Status();
+}
+
 Status TableFiles::mayWrite()
 {
-    if (readOnly())
-        return Error{ErrorKind::ReadOnly, path(), "the table is open for reading only"};
+    if (Status status = refuseReader(); !status.ok())
+        return status;
     return m_damage ? Status(m_damage) : Status();
 }
 

@@ -32,9 +32,10 @@ struct TableMemory {
 class TableFiles
 {
 public:
-    // Opens table, production index and memo file; a file that refuses writing is opened for
-    // reading. Locked when another session holds the table exclusively. What a station that died
-    // left unfinished is finished first, and a wrong count or index is put right.
+    // Opens table, production index and memo file; when one of them or the journal refuses
+    // writing, all of it is for reading. Locked when another session holds the table exclusively.
+    // What a station that died left unfinished is finished first, and a wrong count or index is put
+    // right.
     static Result<std::shared_ptr<TableFiles>> open(FileSystem &files, const std::string &path,
                                                     const SessionSettings &settings,
                                                     TableMemory &memory);
@@ -45,7 +46,8 @@ public:
     const std::string &path() { return m_table.file().path(); }
     const RowLayout &layout() const { return m_header.layout; }
     const TableHeader &header() const { return m_header; }
-    bool readOnly() { return m_table.file().readOnly(); }
+    // True when one of its files is open for reading only: nothing is written to any of them.
+    bool readOnly() { return refusingFile() != nullptr; }
     // What is wrong and could not be put right; such a table is not written to.
     const Error &damage() const { return m_damage; }
     // True when it is read rightly all the same and could not be written to anyhow.
@@ -162,6 +164,8 @@ private:
     {
     }
 
+    const std::string *refusingFile(); // its path, null when all can be written
+    Status refuseReader();             // fails when there is one
     Status openBeside();
     Status openIndexBeside();
     Status openIndex(const std::string &path, bool readOnly);
@@ -239,8 +243,9 @@ private:
     std::unique_ptr<IndexFile> m_index;
     std::unique_ptr<MemoFile> m_memo;
     std::unique_ptr<TableJournal> m_journal;
-    Pieces m_pieces;             // of the save being put together
-    std::vector<Byte> m_newRows; // of this save, one behind the other
+    std::string m_refusingJournal; // its path when it can only be read
+    Pieces m_pieces;               // of the save being put together
+    std::vector<Byte> m_newRows;   // of this save, one behind the other
     std::uint32_t m_newCount = 0;
     bool m_noJournal = false; // at the index's change counter that m_index knows
     int m_lockDepth = 0;

@@ -266,6 +266,10 @@ Status TableFiles::settleAtOpen()
     if (readOnly())
         return settleForReading();
     const Result<TableJournal::Need> need = m_journal->look(false);
+    if (!need.ok() && need.error().kind == ErrorKind::ReadOnly) {
+        m_refusingJournal = need.error().file;
+        return settleForReading();
+    }
     if (!need.ok())
         return need.error();
     if (*need == TableJournal::Need::Nothing)
