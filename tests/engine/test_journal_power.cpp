@@ -145,6 +145,74 @@ TEST(JournalPower, AnIndexThatIsMissingAfterTheCutTakesNoSaveWithIt)
     }
 }
 
+// The table was copied to this disk a moment ago: nothing of it need be on the medium but for what
+// the first save sees to.
+TEST(JournalPower, TheFirstSaveBringsFilesJustCopiedWithIt)
+{
+    const Recording made = record(20, 11);
+    const SimDisk empty;
+    SimDisk disk;
+    disk.recording = true;
+    SimStation person(disk);
+    const std::unique_ptr<SimDisk> source =
+        SimDisk::afterPowerCut(*made.start, made.changes, made.changes.size(), 1);
+    ASSERT_EQ(compare(*source, made.people.back()), "");
+    for (const char *path : {"/people.dbf", "/people.cdx", "/people.fpt"}) {
+        const auto file = person.open(path, OpenMode::CreateNew);
+        ASSERT_TRUE(file.ok() && (*file)->write(0, source->bytes(path)).ok());
+    }
+    const Save save = insertOf(900, "a text");
+    ASSERT_TRUE(SimSession(disk).perform(save));
+    People people = made.people.back();
+    note(people, save);
+    for (std::uint32_t choice = 0; choice < 60; ++choice) {
+        const auto cut = SimDisk::afterPowerCut(empty, disk.changes, disk.changes.size(), choice);
+        ASSERT_EQ(compare(*cut, people), "") << choice;
+    }
+}
+
+// A station dies with its record written and not yet synced, another one finishes its save, and
+// then the power goes: what the other saw stays.
+TEST(JournalPower, WhatIsFinishedForAnotherStationIsNotLostAgain)
+{
+    const Recording made = record(12, 13);
+    const People &before = made.people.back();
+    const Save save = insertOf(900, "a text");
+    People after = before;
+    note(after, save);
+    const std::unique_ptr<SimDisk> start =
+        SimDisk::afterPowerCut(*made.start, made.changes, made.changes.size(), 1);
+    ASSERT_EQ(compare(*start, before), "");
+    int finished = 0;
+    bool dead = true;
+    for (int call = 1; dead; ++call) {
+        const std::unique_ptr<SimDisk> disk = start->copy();
+        disk->recording = true;
+        {
+            SimSession dying(*disk);
+            dying.station.dieAt(call);
+            (void)dying.perform(save);
+            dead = dying.station.dead();
+        }
+        const std::size_t died = disk->changes.size();
+        SimSession(*disk).look();
+        const std::size_t end = disk->changes.size();
+        bool seen = false;
+        ASSERT_EQ(compare(*disk->copy(), before, &after, &seen), "") << "call " << call;
+        finished += seen && dead;
+        for (std::size_t count = died; count <= end; ++count) {
+            for (std::uint32_t choice = 0; choice < 10; ++choice) {
+                const auto cut = SimDisk::afterPowerCut(*start, disk->changes, count, choice);
+                const bool sure = seen && count == end;
+                ASSERT_EQ(compare(*cut, sure ? after : before, sure ? nullptr : &after), "")
+                    << "died at call " << call << ", " << count - died << " changes later of "
+                    << end - died << ", choice " << choice;
+            }
+        }
+    }
+    EXPECT_GT(finished, 1);
+}
+
 TEST(JournalPower, ProcessDurabilitySyncsNothingInASave)
 {
     const std::unique_ptr<SimDisk> disk = diskWithPeople();
