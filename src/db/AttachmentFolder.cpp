@@ -107,12 +107,15 @@ FileCopyOutcome AttachmentFolder::add(const QString &source, const QString &name
     if (!exists() || !isPlainName(name))
         return {FileCopyOutcome::End::Failed, QStringLiteral("No such folder or name")};
     dropOldWork();
-    const FileCopyOutcome outcome = copyFile(source, filePath(name), m_workFolder, watch);
-    if (outcome.done())
-        takeRightsOf(clsSystem::LocalPath(m_path), filePath(name),
+    // During a long copy a link may have taken the folder's place.
+    const auto place = [&](const QString &written) {
+        const QString folder = clsSystem::LocalPath(m_path);
+        takeRightsOf(folder, written,
                      fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read |
                          fs::perms::group_write | fs::perms::others_read | fs::perms::others_write);
-    return outcome;
+        return moveIntoFolder(written, folder, name);
+    };
+    return copyFile(source, filePath(name), m_workFolder, watch, place);
 }
 
 bool AttachmentFolder::remove(const QString &name) const

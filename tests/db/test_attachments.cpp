@@ -260,6 +260,26 @@ TEST_F(Attachments, ALinkInTheFoldersPlaceIsNoFolder)
     EXPECT_EQ("precious", bytes(precious));
 }
 
+TEST_F(Attachments, ALinkThatTakesTheFoldersPlaceDuringACopyGetsNothing)
+{
+    ASSERT_TRUE(folder.create());
+    const QString large = outside(u"large"_s, QByteArray(3 << 20, 'n'));
+    const QString away = folder.path() + u"-away";
+    QDir(elsewhere.path()).mkdir(u"deep"_s);
+    const FileCopyOutcome outcome = folder.add(large, u"file"_s, [&](qint64 done, qint64) {
+        if (done == 1 << 20) {
+            EXPECT_TRUE(QDir().rename(folder.path(), away));
+            EXPECT_TRUE(QFile::link(elsewhere.filePath(u"deep"_s), folder.path()));
+        }
+        return true;
+    });
+    EXPECT_EQ(FileCopyOutcome::End::Failed, outcome.end);
+    EXPECT_NE(QString(), outcome.cause);
+    EXPECT_TRUE(QDir(elsewhere.filePath(u"deep"_s)).isEmpty());
+    EXPECT_TRUE(QDir(away).isEmpty());
+    EXPECT_EQ(QStringList(), unfinished());
+}
+
 TEST_F(Attachments, DeletingTakesOneRecordsFolderOnly)
 {
     const AttachmentFolder other = gDB.Attachments(170, u"_ps"_s);

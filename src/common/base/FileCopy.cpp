@@ -6,7 +6,16 @@
 #include <QSaveFile>
 #include <QUuid>
 
+#include <cerrno>
 #include <filesystem>
+#include <system_error>
+
+#ifdef Q_OS_WIN
+#include <QDir>
+#else
+#include <fcntl.h>
+#include <unistd.h>
+#endif
 
 namespace
 {
@@ -45,22 +54,46 @@ FileCopyOutcome copyContents(QFile &from, QSaveFile &to, const FileCopyWatch &wa
     return to.flush() && to.commit() ? FileCopyOutcome{End::Done, {}} : failed(to.errorString());
 }
 
-// Takes the place of whatever has the name; a link is replaced, not followed.
-FileCopyOutcome moveOver(const QString &from, const QString &to)
+FileCopyOutcome moved(const QString &from, const std::error_code &error)
 {
-    std::error_code error;
-    std::filesystem::rename(QFileInfo(from).filesystemFilePath(),
-                            QFileInfo(to).filesystemFilePath(), error);
     if (!error)
         return {End::Done, {}};
     QFile::remove(from);
     return failed(QString::fromStdString(error.message()));
 }
 
+// Takes the place of whatever has the name; a link is replaced, not followed.
+FileCopyOutcome moveOver(const QString &from, const QString &to)
+{
+    std::error_code error;
+    std::filesystem::rename(QFileInfo(from).filesystemFilePath(),
+                            QFileInfo(to).filesystemFilePath(), error);
+    return moved(from, error);
+}
+
 } // namespace
 
+FileCopyOutcome moveIntoFolder(const QString &written, const QString &folder, const QString &name)
+{
+#ifdef Q_OS_WIN
+    if (QFileInfo(folder).isSymLink())
+        return moved(written, std::make_error_code(std::errc::not_a_directory));
+    return moveOver(written, QDir(folder).filePath(name));
+#else
+    // Held open: whatever takes the folder's place from here on does not matter.
+    constexpr int how = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
+    const int place = ::open(QFile::encodeName(folder).constData(), how);
+    const bool done = place >= 0 && ::renameat(AT_FDCWD, QFile::encodeName(written).constData(),
+                                               place, QFile::encodeName(name).constData()) == 0;
+    const std::error_code error(done ? 0 : errno, std::generic_category());
+    if (place >= 0)
+        ::close(place);
+    return moved(written, error);
+#endif
+}
+
 FileCopyOutcome copyFile(const QString &source, const QString &target, const QString &workFolder,
-                         const FileCopyWatch &watch)
+                         const FileCopyWatch &watch, const FileCopyPlacing &place)
 {
     QFile from(clsSystem::LocalPath(source));
     const QString targetPath = clsSystem::LocalPath(target);
@@ -80,5 +113,7 @@ FileCopyOutcome copyFile(const QString &source, const QString &target, const QSt
     if (!to.open(QIODevice::WriteOnly))
         return failed(to.errorString());
     const FileCopyOutcome outcome = copyContents(from, to, watch);
-    return outcome.done() && written != targetPath ? moveOver(written, targetPath) : outcome;
+    if (!outcome.done() || written == targetPath)
+        return outcome;
+    return place ? place(written) : moveOver(written, targetPath);
 }
