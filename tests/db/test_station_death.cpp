@@ -2,7 +2,13 @@
 // whole or absent, all tables are sound, and the next station goes on without a question.
 #include "DbTest.h"
 #include "engine/SimDisk.h"
+#include "ImportFile.h"
 #include "support/MatrixLength.h"
+
+#include "common/base/Preferences.h"
+#include "db/FieldText.h"
+#include "db/import/ImportRun.h"
+#include "db/TableUse.h"
 
 #include <QDir>
 #include <QFile>
@@ -192,4 +198,42 @@ TEST_F(StationDeath, LeavesEachOfTheProgramsOperationsWholeOrAbsent)
          false}};
     for (const Work &work : works)
         dieEverywhere(work);
+    SetPrefStr(u"durability"_s, u"process"_s); // a killed station loses nothing by that either
+    dieEverywhere(works[0]);
+}
+
+// Of the file's rows those up to some row, each of them whole, and all that were told as stored.
+TEST_F(StationDeath, LeavesTheFirstRowsOfAnImport)
+{
+    constexpr int Rows = 5;
+    QByteArray bytes = "LASTNAME,COMPANY,CATEGORY,NOTES\n";
+    for (int i = 1; i <= Rows; ++i)
+        bytes += QByteArray("Name %,Company %,Kind %,Note %\n").replace('%', QByteArray::number(i));
+    const ImportFile file(bytes);
+    const QStringList headings{u"LASTNAME"_s, u"COMPANY"_s, u"CATEGORY"_s, u"NOTES"_s};
+    int told = 0;
+    dieEverywhere({"an import",
+                   [&](clsDB &station) {
+                       told = 0;
+                       ImportRun run(station, ImportRun::NewCustomers, headings, Rows);
+                       run.onStored([&told](qint32) { ++told; });
+                       return run.ImportData_Detail(file.path()).ok;
+                   },
+                   [&](clsDB &station) {
+                       QStringList found;
+                       TableUse table(station, station.CustomerTable());
+                       for (bool more = table.top(); more; more = table.next()) {
+                           if (table.number(u"rowid"_s) <= customer)
+                               continue;
+                           found.append(table.text(u"lastname"_s) % u'/' %
+                                        table.text(u"company"_s) % u'/' %
+                                        MemoText(table.field(u"notes"_s)));
+                           EXPECT_GT(table.text(u"custcat"_s).toInt(), 0);
+                       }
+                       for (int i = 0; i < found.size(); ++i)
+                           EXPECT_EQ(found[i], u"Name %1/Company %1/Note %1"_s.arg(i + 1));
+                       EXPECT_GE(found.size(), told);
+                       return QString::number(found.size());
+                   },
+                   false});
 }
