@@ -155,8 +155,7 @@ bool clsDB::buildMissingIndex(const QString &dir, const schema::TableInfo &table
     const Handle session = d4init_v(m_files);
     code4lockAttempts(session, 10);
     expectOurTags(session);
-    std::vector<RepairLine> report;
-    d4repair(session, existingFile(dir, table.dataFile()).toStdString(), report);
+    d4close(d4open(session, existingFile(dir, table.dataFile()).toStdString()));
     d4initUndo(session);
     return !fileMissing(dir, table.indexFile());
 }
