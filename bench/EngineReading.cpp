@@ -1,4 +1,5 @@
 // Reading with the tables open: the counterpart of SqliteStore's queries.
+#include "db/search/WordMatcher.h"
 #include "EngineStore.h"
 
 #include <algorithm>
@@ -38,19 +39,18 @@ std::string trimmedText(Handle field)
     return std::string(bytes.substr(0, bytes.find_last_not_of(' ') + 1));
 }
 
-// Whether texts hold a word, without regard to case.
+// Whether texts hold a word, as the program looks for it.
 class Search
 {
 public:
-    explicit Search(std::string_view word) : m_word(uppercase(word)) {}
-
-    bool in(std::string_view text)
+    explicit Search(std::string_view word)
+        : m_words(QString::fromLatin1(word.data(), static_cast<qsizetype>(word.size())),
+                  AnyOfTheWords)
     {
-        m_text.resize(text.size());
-        std::transform(text.begin(), text.end(), m_text.begin(), upper);
-        return memmem(m_text.data(), m_text.size(), m_word.data(), m_word.size()) != nullptr;
     }
-    bool inMemo(Handle field)
+
+    bool in(std::string_view text) const { return m_words.matches(text); }
+    bool inMemo(Handle field) const
     {
         const char *text = f4memoPtr(field);
         if (text == nullptr)
@@ -59,8 +59,7 @@ public:
     }
 
 private:
-    std::string m_word;
-    std::string m_text;
+    WordMatcher m_words;
 };
 
 // Names by number. The numbers of a table lie close together, as a counter gives them out.

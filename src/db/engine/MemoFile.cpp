@@ -76,8 +76,8 @@ Result<ByteView> MemoFile::lookAhead(Ahead &ahead, std::uint64_t at)
 {
     const bool inOrder = at > ahead.last && at - ahead.last <= kNear;
     ahead.last = at;
-    if (at >= ahead.first && at - ahead.first < ahead.bytes.size()) {
-        const ByteView held = ByteView(ahead.bytes).subspan(at - ahead.first);
+    if (at >= ahead.first && at - ahead.first < ahead.held) {
+        const ByteView held = ByteView(ahead.bytes).first(ahead.held).subspan(at - ahead.first);
         if (holdsText(held))
             return held;
     }
@@ -87,11 +87,12 @@ Result<ByteView> MemoFile::lookAhead(Ahead &ahead, std::uint64_t at)
         return status.error();
     ahead.bytes.resize(kAhead);
     const Result<std::size_t> got = m_file->read(at, ahead.bytes);
-    ahead.bytes.resize(got.ok() ? *got : 0);
+    ahead.held = got.ok() ? *got : 0;
     ahead.first = at;
     if (!got.ok())
         return got.error();
-    return holdsText(ahead.bytes) ? ByteView(ahead.bytes) : ByteView();
+    const ByteView held = ByteView(ahead.bytes).first(ahead.held);
+    return holdsText(held) ? held : ByteView();
 }
 
 Status MemoFile::read(std::uint32_t block, std::string &text, Ahead *ahead)

@@ -23,9 +23,10 @@ public:
     struct Ahead {
         std::uint64_t first = 0; // bytes
         std::uint64_t last = 0;  // where the text read last begins
-        std::vector<Byte> bytes;
+        std::size_t held = 0;    // of the bytes
+        std::vector<Byte> bytes; // kept for its memory
 
-        void clear() { bytes.clear(); }
+        void clear() { held = 0; }
     };
     // Puts the text that begins at a block into `text`. Damaged when there is none inside the file.
     Status read(std::uint32_t block, std::string &text, Ahead *ahead = nullptr);

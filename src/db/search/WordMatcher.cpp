@@ -20,11 +20,6 @@ std::size_t pairAt(std::string_view text, std::size_t at)
     return byte(at) << 8 | byte(at + 1);
 }
 
-bool contains(std::string_view text, std::string_view word)
-{
-    return text.find(word) != std::string_view::npos;
-}
-
 } // namespace
 
 WordMatcher::WordMatcher(const QString &text, qint32 type) : m_type(type)
@@ -37,8 +32,14 @@ WordMatcher::WordMatcher(const QString &text, qint32 type) : m_type(type)
         m_verdict = m_hasEmpty ? Verdict::All : m_words.empty() ? Verdict::None : Verdict::ByWords;
     else
         m_verdict = m_hasForeign ? Verdict::None : Verdict::ByWords;
-    if (m_verdict == Verdict::ByWords && m_words.size() > FewWords)
+    if (m_verdict != Verdict::ByWords)
+        return;
+    if (m_words.size() > FewWords) {
         indexWords();
+    } else {
+        for (const std::string &word : m_words)
+            m_few.emplace_back(word);
+    }
 }
 
 void WordMatcher::takeWords(const QString &text)
@@ -80,6 +81,11 @@ bool WordMatcher::matches(std::string_view stored) const
         return m_verdict == Verdict::All;
     if (m_type == AllOfTheWords && stored.size() < m_longest)
         return false;
+    if (m_first.empty()) {
+        const auto isThere = [stored](const FoldedWord &word) { return word.isIn(stored); };
+        return m_type == AnyOfTheWords ? std::any_of(m_few.begin(), m_few.end(), isThere)
+                                       : std::all_of(m_few.begin(), m_few.end(), isThere);
+    }
     m_folded.resize(stored.size());
     foldAnsi(stored, m_folded.data());
     return m_type == AnyOfTheWords ? hasOne() : hasEach();
@@ -108,17 +114,11 @@ bool WordMatcher::walkWords(Found found) const
 
 bool WordMatcher::hasOne() const
 {
-    if (!m_first.empty())
-        return walkWords([](std::size_t) { return true; });
-    return std::any_of(m_words.begin(), m_words.end(),
-                       [this](const std::string &word) { return contains(m_folded, word); });
+    return walkWords([](std::size_t) { return true; });
 }
 
 bool WordMatcher::hasEach() const
 {
-    if (m_first.empty())
-        return std::all_of(m_words.begin(), m_words.end(),
-                           [this](const std::string &word) { return contains(m_folded, word); });
     std::size_t missing = m_words.size();
     if (++m_text == 0) { // the count of texts began anew
         std::fill(m_seen.begin(), m_seen.end(), 0);

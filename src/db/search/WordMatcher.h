@@ -2,6 +2,8 @@
 // case, on contents as they are stored. Whole tables are walked with it, so it makes no texts.
 #pragma once
 
+#include "db/search/FoldedWord.h"
+
 #include <QString>
 
 #include <cstdint>
@@ -29,7 +31,7 @@ private:
 
     void takeWords(const QString &text);
     void indexWords();
-    bool hasEach() const;
+    bool hasEach() const; // of many words
     bool hasOne() const;
     template <class Found>
     bool walkWords(Found found) const;
@@ -41,6 +43,7 @@ private:
     std::vector<std::string> m_words; // upper case, sorted, each once
     std::size_t m_longest = 0;
 
+    std::vector<FoldedWord> m_few; // the words when they are few
     // For many words: those that begin with a pair of bytes stand from m_first[pair] on.
     std::vector<std::uint32_t> m_first;
     mutable std::string m_folded;              // the text at hand, kept for its memory
