@@ -14,6 +14,7 @@ namespace
 using namespace std::chrono_literals;
 
 constexpr std::size_t kMostBytes = 64 * 1024;
+constexpr std::uint32_t kMostPieces = 4; // of so many bytes, in a pass
 // In record order; in a walk by a tag they go with its entries.
 constexpr auto kBlockAge = 250ms;
 // In a walk rows are read in one go when they are so many and so close: a call of the system costs
@@ -74,8 +75,12 @@ Status Table::loadRowInPass(std::uint32_t record)
     if (!isReadAhead(record) || now - m_blockTime >= kBlockAge) {
         if (Status status = m_files->table().file().freshen(); !status.ok())
             return status;
+        // Who goes on gets more: what was read of texts is dropped with each piece.
+        const bool goesOn = m_blockRows > 0 && record == m_blockFirst + m_blockRows;
+        const std::uint32_t most =
+            goesOn ? std::min(2 * m_blockRows, kMostPieces * rowsAhead()) : rowsAhead();
         const std::uint32_t left = m_files->count() - record + 1;
-        if (Status status = readAhead(record, std::min(rowsAhead(), left)); !status.ok())
+        if (Status status = readAhead(record, std::min(most, left)); !status.ok())
             return status;
     }
     takeFromBlock(record);

@@ -144,13 +144,15 @@ Result<std::uint32_t> Table::memoBlock(int field) const
     const ByteView bytes = fieldBytes(field);
     if (bytes.size() == 4)
         return getLe32(bytes.data());
-    const std::string_view text = trimmed(asText(bytes));
-    if (text.empty())
+    const char *from = asText(bytes).data();
+    const char *const end = from + bytes.size();
+    while (from != end && *from == ' ')
+        ++from;
+    if (from == end)
         return 0U;
     std::uint32_t block = 0;
-    const char *end = text.data() + text.size();
-    const auto result = std::from_chars(text.data(), end, block);
-    if (result.ec != std::errc() || result.ptr != end)
+    const auto result = std::from_chars(from, end, block);
+    if (result.ec != std::errc() || std::any_of(result.ptr, end, [](char c) { return c != ' '; }))
         return Error{ErrorKind::Damaged, m_files->path(), "a memo pointer is no number", m_recNo};
     return block;
 }
