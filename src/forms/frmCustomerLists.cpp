@@ -12,6 +12,9 @@
 #include "forms/TemplateList.h"
 #include "ui_frmCustomer.h"
 
+#include <QPushButton>
+#include <QShortcut>
+
 namespace
 {
 
@@ -103,6 +106,14 @@ void frmCustomer::connectLists()
     connect(m_ui->cmdNewIssue, &QPushButton::clicked, this, &frmCustomer::newIssue);
     connect(m_ui->cmdPrintIssues, &QPushButton::clicked, this, &frmCustomer::printIssues);
     shortcutFor(this, QKeySequence::Print, m_ui->cmdPrint);
+    auto *insert = new QShortcut(Qt::Key_Insert, m_ui->tabs);
+    insert->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(insert, &QShortcut::activated, this, [this] {
+        for (QPushButton *button : {m_ui->cmdNewPS, m_ui->cmdNewIssue}) {
+            if (button->isVisible())
+                button->click();
+        }
+    });
 }
 
 void frmCustomer::LV_LoadPS(int selectId)

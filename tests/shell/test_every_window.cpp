@@ -48,11 +48,18 @@
 #include <QAccessible>
 #include <QAction>
 #include <QComboBox>
+#include <QDialog>
 #include <QKeySequence>
+#include <QLabel>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QPlainTextEdit>
+#include <QRegularExpression>
 #include <QShortcut>
+#include <QTabBar>
 #include <QTextEdit>
+
+#include <algorithm>
 
 namespace
 {
@@ -123,6 +130,40 @@ QStringList keysWithTwoMeanings(const QWidget *window)
         if (keys.count(key) > 1 && !twice.contains(key))
             twice.append(key);
     return twice;
+}
+
+// The letter behind a single "&"; none without one.
+QChar accessLetter(const QString &caption)
+{
+    static const QRegularExpression mark(QStringLiteral("(?:^|[^&])(?:&&)*&([^&])"));
+    const auto match = mark.match(caption);
+    return match.hasMatch() ? match.captured(1).at(0).toUpper() : QChar();
+}
+
+// Captions in a window inside the main window whose letter a menu has already.
+QStringList captionsWithLettersOfMenus(const frmMain *main, const QWidget *window)
+{
+    QString letters;
+    for (const QAction *menu : main->menuBar()->actions())
+        letters += accessLetter(menu->text());
+    QStringList captions;
+    for (const QAbstractButton *button : window->findChildren<QAbstractButton *>())
+        captions.append(button->text());
+    for (const QLabel *label : window->findChildren<QLabel *>()) {
+        if (label->buddy() != nullptr)
+            captions.append(label->text());
+    }
+    for (const QTabBar *bar : window->findChildren<QTabBar *>()) {
+        for (int tab = 0; tab < bar->count(); ++tab)
+            captions.append(bar->tabText(tab));
+    }
+    captions.erase(std::remove_if(captions.begin(), captions.end(),
+                                  [&letters](const QString &caption) {
+                                      const QChar letter = accessLetter(caption);
+                                      return letter.isNull() || !letters.contains(letter);
+                                  }),
+                   captions.end());
+    return captions;
 }
 
 } // namespace
@@ -216,9 +257,15 @@ TEST_F(MainWindow, EveryWindowCanBeReadAloudAndHasKeysOfOneMeaning)
     };
     EXPECT_EQ(namelessParts(main.get()), QStringList()) << "frmMain";
     EXPECT_EQ(keysWithTwoMeanings(main.get()), QStringList()) << "frmMain";
+    QStringList shared;
     for (const auto &[name, make] : windows) {
         const std::unique_ptr<QWidget> window = make();
         EXPECT_EQ(namelessParts(window.get()), QStringList()) << name;
         EXPECT_EQ(keysWithTwoMeanings(window.get()), QStringList()) << name;
+        // a user has a window of its own, beside the main one
+        if (qobject_cast<QDialog *>(window.get()) == nullptr && name != QLatin1String("frmUser"))
+            shared += captionsWithLettersOfMenus(main.get(), window.get());
     }
+    // Two captions that people know by these letters.
+    EXPECT_EQ(shared, QStringList({"Attac&hments", "&View"}));
 }
