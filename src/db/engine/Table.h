@@ -10,6 +10,7 @@
 #include <chrono>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -186,7 +187,7 @@ private:
 
     // TableFields.cpp
     Status putField(int field, std::string_view text);
-    Result<std::uint32_t> memoBlock(int field) const;
+    std::optional<std::uint32_t> memoBlock(int field) const;
     void putMemoBlock(int field, std::uint32_t block);
     void blankField(const FieldDef &field);
     void forgetMemos();

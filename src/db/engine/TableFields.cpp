@@ -139,7 +139,8 @@ Status Table::assignText(int field, std::string_view text)
 
 // ---- memos
 
-Result<std::uint32_t> Table::memoBlock(int field) const
+// Where the field's text begins, 0 when it has none; nothing when the bytes are no pointer.
+std::optional<std::uint32_t> Table::memoBlock(int field) const
 {
     const ByteView bytes = fieldBytes(field);
     if (bytes.size() == 4)
@@ -153,7 +154,7 @@ Result<std::uint32_t> Table::memoBlock(int field) const
     std::uint32_t block = 0;
     const auto result = std::from_chars(from, end, block);
     if (result.ec != std::errc() || std::any_of(result.ptr, end, [](char c) { return c != ' '; }))
-        return Error{ErrorKind::Damaged, m_files->path(), "a memo pointer is no number", m_recNo};
+        return std::nullopt;
     return block;
 }
 
@@ -183,9 +184,9 @@ Result<const std::string *> Table::memo(int field)
     Memo &memo = m_memos[static_cast<std::size_t>(field)];
     if (memo.known)
         return &memo.text;
-    const Result<std::uint32_t> block = memoBlock(field);
-    if (!block.ok())
-        return block.error();
+    const std::optional<std::uint32_t> block = memoBlock(field);
+    if (!block)
+        return Error{ErrorKind::Damaged, m_files->path(), "a memo pointer is no number", m_recNo};
     memo.text.clear();
     if (*block != 0) {
         const Status read =

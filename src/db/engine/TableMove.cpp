@@ -407,6 +407,8 @@ Result<Code> Table::skip(std::int32_t count)
 {
     if (Status status = settleBeforeMove(); !status.ok())
         return status.error();
+    if (count == 1 && m_recNo != 0 && orderTag() < 0) // the step of a pass over the whole table
+        return stepInRecordOrder(Direction::Forward);
     const Direction direction = count < 0 ? Direction::Backward : Direction::Forward;
     Result<Code> code = r4success;
     std::int64_t steps = count < 0 ? -std::int64_t{count} : count;
