@@ -3,6 +3,8 @@
 #include "common/base/clsSystem.h"
 #include "db/FieldText.h"
 
+#include <limits>
+
 using namespace norvane::engine;
 
 namespace
@@ -39,7 +41,7 @@ QString CustomerNames::of(qint32 custid)
 bool CustomerNames::find(qint32 custid)
 {
     const qint64 guess = custid + m_offset;
-    if (guess > 0 && guess <= d4recCountDo(m_customers) &&
+    if (guess > 0 && guess <= std::numeric_limits<std::uint32_t>::max() &&
         d4go(m_customers, static_cast<std::uint32_t>(guess)) == r4success &&
         !d4deleted(m_customers) && f4long(m_rowid) == custid)
         return true;
