@@ -130,10 +130,7 @@ void ReportWindow::DisplayReportData(std::vector<ReportTable::Column> columns, c
     const std::optional<qint32> found = DisplayRowData(table, walk);
     {
         const Hourglass hourglass;
-        table.sortBy(first);
-        table.numberRows();
-        if (suppresses() && table.columns.size() > 1)
-            table.elimRepeatingValues(first);
+        table.deliver(suppresses());
         const bool any = !table.rows.empty();
         m_model->setTable(std::move(table));
         ui->grd->fitColumns();
@@ -206,19 +203,19 @@ void ReportWindow::openFind()
     m_find->start();
 }
 
-// Rows count from 1; the row numbers are not searched.
+// Rows count from 1. All columns are searched, those of the row numbers too.
 bool ReportWindow::findFrom(const frmFind::Request &request, int row)
 {
-    const auto first = static_cast<int>(report().firstDataColumn());
     const FoundCell found = FindCell(
-        m_model->rowCount(), m_model->columnCount() - first,
-        [this, first](int at, int column) {
+        m_model->rowCount(), m_model->columnCount(),
+        [this](int at, int column) {
             return report().cell(static_cast<std::size_t>(at - 1),
-                                 static_cast<std::size_t>(column - 1 + first));
+                                 static_cast<std::size_t>(column - 1));
         },
         request, row);
+    const auto first = static_cast<int>(report().firstDataColumn());
     if (found.row > 0)
-        ui->grd->selectCell(found.row - 1, found.column - 1 + first);
+        ui->grd->selectCell(found.row - 1, std::max(found.column - 1, first));
     return found.row > 0;
 }
 
@@ -229,16 +226,23 @@ void ReportWindow::Find(const QString &strFind, bool bWholeWordOnly, bool bMatch
     frmFind::Request request{strFind, bWholeWordOnly, bMatchCase, bDirectionUp};
     if (findFrom(request, began))
         return;
-    // The first row is where a report begins, so it may hold the text itself.
-    const bool fromTop = began <= 1;
-    if (!fromTop && prompts::ask(tr("No more occurences of '%1' found! Would you like to search "
-                                    "from the top of this view?")
-                                     .arg(strFind)) != prompts::Answer::Yes)
+    const QString none = tr("No occurences of '%1' found!").arg(strFind);
+    if (began <= 1) {
+        prompts::inform(none);
         return;
-    request.directionUp = false;
-    const bool found = findFrom(request, 0);
-    if (!found || (!fromTop && ui->grd->currentRow() + 1 == began))
-        prompts::inform(tr("No occurences of '%1' found!").arg(strFind));
+    }
+    if (prompts::ask(tr("No more occurences of '%1' found! Would you like to search from the top "
+                        "of this view?")
+                         .arg(strFind)) != prompts::Answer::Yes)
+        return;
+    request.directionUp = false; // there is nothing above the top
+    bool found = false;
+    if (m_model->columnCount() > 1) {
+        ui->grd->selectCell(0, static_cast<int>(report().firstDataColumn()));
+        found = findFrom(request, 1);
+    }
+    if (!found || ui->grd->currentRow() + 1 == began)
+        prompts::inform(none);
 }
 
 void ReportWindow::saveAs()
