@@ -8,42 +8,78 @@
 #include <QHash>
 
 #include <algorithm>
+#include <numeric>
 
 namespace
 {
 
-// Sorts by what `keyOf` makes of a cell; each distinct text is looked at once.
-template <class Key, class KeyOf>
+// Gives each distinct text of a column a number, from 0 in the order they come. Cells that name the
+// same record mostly share one text, which is then known by where it lies.
+class DistinctTexts
+{
+public:
+    std::size_t numberOf(const QString &text)
+    {
+        const auto same = m_byPlace.constFind(text.constData());
+        if (same != m_byPlace.constEnd())
+            return *same;
+        auto equal = m_byText.constFind(text);
+        if (equal == m_byText.constEnd()) {
+            equal = m_byText.insert(text, m_texts.size());
+            m_texts.push_back(text);
+        }
+        m_byPlace.insert(text.constData(), *equal);
+        return *equal;
+    }
+    const std::vector<QString> &texts() const { return m_texts; }
+
+private:
+    QHash<const QChar *, std::size_t> m_byPlace;
+    QHash<QString, std::size_t> m_byText;
+    std::vector<QString> m_texts;
+};
+
+// The place of each text in the order of what `keyOf` makes of it; equal keys have the same place.
+template <class KeyOf>
+std::vector<std::size_t> placesOf(const std::vector<QString> &texts, KeyOf keyOf)
+{
+    std::vector<decltype(keyOf(QString()))> keys;
+    keys.reserve(texts.size());
+    for (const QString &text : texts)
+        keys.push_back(keyOf(text));
+    std::vector<std::size_t> order(texts.size());
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    std::sort(order.begin(), order.end(),
+              [&keys](std::size_t a, std::size_t b) { return keys[a] < keys[b]; });
+    std::vector<std::size_t> places(texts.size());
+    for (std::size_t at = 1; at < order.size(); ++at)
+        places[order[at]] = places[order[at - 1]] + (keys[order[at - 1]] < keys[order[at]] ? 1 : 0);
+    return places;
+}
+
+// Stable. Each distinct text is looked at once, and the rows are put down by counting.
+template <class KeyOf>
 void sortByKey(std::vector<ReportTable::Row> &rows, std::size_t column, KeyOf keyOf)
 {
-    struct Place {
-        const Key *key;
-        std::size_t row;
-    };
-    QHash<QString, std::size_t> known;
-    std::vector<Key> keys;
-    std::vector<std::size_t> keyOfRow;
-    keyOfRow.reserve(rows.size());
+    DistinctTexts distinct;
+    std::vector<std::size_t> placeOfRow;
+    placeOfRow.reserve(rows.size());
+    const QString none;
     for (const ReportTable::Row &row : rows) {
-        const QString text = row.cells.value(static_cast<qsizetype>(column));
-        auto at = known.constFind(text);
-        if (at == known.constEnd()) {
-            at = known.insert(text, keys.size());
-            keys.push_back(keyOf(text));
-        }
-        keyOfRow.push_back(*at);
+        const bool has = column < static_cast<std::size_t>(row.cells.size());
+        placeOfRow.push_back(
+            distinct.numberOf(has ? row.cells[static_cast<qsizetype>(column)] : none));
     }
-    std::vector<Place> order;
-    order.reserve(rows.size());
+    const std::vector<std::size_t> places = placesOf(distinct.texts(), keyOf);
+    std::vector<std::size_t> start(places.size() + 1);
+    for (std::size_t &place : placeOfRow) {
+        place = places[place];
+        ++start[place + 1];
+    }
+    std::partial_sum(start.begin(), start.end(), start.begin());
+    std::vector<ReportTable::Row> sorted(rows.size());
     for (std::size_t row = 0; row < rows.size(); ++row)
-        order.push_back({&keys[keyOfRow[row]], row});
-    std::stable_sort(order.begin(), order.end(), [](const Place &a, const Place &b) {
-        return a.key != b.key && *a.key < *b.key;
-    });
-    std::vector<ReportTable::Row> sorted;
-    sorted.reserve(rows.size());
-    for (const Place &place : order)
-        sorted.push_back(std::move(rows[place.row]));
+        sorted[start[placeOfRow[row]]++] = std::move(rows[row]);
     rows = std::move(sorted);
 }
 
@@ -73,15 +109,14 @@ void ReportTable::sortBy(std::size_t column)
         return;
     const QString &type = columns[column].dataType;
     if (type == u"I") {
-        sortByKey<double>(rows, column,
-                          [](const QString &text) { return NumberInText(text).value_or(0); });
+        sortByKey(rows, column, [](const QString &text) { return NumberInText(text).value_or(0); });
     } else if (type == u"D") {
-        sortByKey<QDate>(rows, column, clsSystem::Str2Date);
+        sortByKey(rows, column, clsSystem::Str2Date);
     } else {
         QCollator collator(host().locale());
         collator.setCaseSensitivity(Qt::CaseInsensitive);
-        sortByKey<QCollatorSortKey>(
-            rows, column, [&collator](const QString &text) { return collator.sortKey(text); });
+        sortByKey(rows, column,
+                  [&collator](const QString &text) { return collator.sortKey(text); });
     }
 }
 
