@@ -25,6 +25,7 @@ protected:
     clsDB::ListTable table() const override { return m_list.table; }
     void LoadData() override; // the caption tells when
     void SetUI() override;
+    QString titleKey() const override { return u"RptTitle " + m_list.caption; }
 
 private:
     void connectControls();

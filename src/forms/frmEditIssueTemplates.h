@@ -27,6 +27,7 @@ protected:
     clsDB::ListTable table() const override;
     void LoadData() override;
     void SetUI() override;
+    QString titleKey() const override { return QStringLiteral("RptTitle Issue Templates"); }
 
 private:
     void editTemplate();

@@ -294,11 +294,14 @@ TEST_F(ListEditor, TheCommandAsksForTheRightAndShowsTheList)
         QTest::keyClick(dialog, Qt::Key_F1);
         EXPECT_EQ(board.calls(), QStringList{u"showHelp 1060"_s});
         QString printed;
-        const auto preview = std::exchange(
-            printing::backend().preview,
-            [&printed](const printing::Document &document) { printed = document.name; });
+        const auto options = std::exchange(printing::backend().options,
+                                           [&printed](const printing::ListRequest &request)
+                                               -> std::optional<printing::ListOptions> {
+                                               printed = request.title;
+                                               return std::nullopt;
+                                           });
         clickButton(dialog, u"cmdPrint"_s);
-        printing::backend().preview = preview;
+        printing::backend().options = options;
         EXPECT_EQ(dialog->windowTitle(), printed);
         clickButton(dialog, u"cmdClose"_s);
     });

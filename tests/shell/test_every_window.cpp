@@ -17,6 +17,7 @@
 #include "common/ui/frmPreview.h"
 #include "common/ui/frmProgress.h"
 #include "common/ui/frmRichEdit.h"
+#include "common/ui/frmRptOption.h"
 #include "common/ui/Help.h"
 #include "common/ui/HelpWindow.h"
 #include "forms/frmCustomer.h"
@@ -250,6 +251,7 @@ TEST_F(MainWindow, EveryWindowCanBeReadAloudAndHasKeysOfOneMeaning)
         {"frmPSFilterDlg", plain<frmPSFilterDlg>()},
         {"frmReportDisplay", plain<frmReportDisplay>()},
         {"frmRichEdit", plain<frmRichEdit>()},
+        {"frmRptOption", plain<frmRptOption>()},
         {"frmSplash", plain<frmSplash>()},
         {"frmTip", plain<frmTip>()},
         {"frmUnderEditMsg", plain<frmUnderEditMsg>()},

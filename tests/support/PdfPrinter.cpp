@@ -23,6 +23,9 @@ PdfPrinter::PdfPrinter() : m_before(printing::backend())
     printing::backend().preview = [](const printing::Document &document) {
         printing::print(document);
     };
+    printing::backend().options = [this](const printing::ListRequest &request) {
+        return m_options.value_or(printing::ListOptions{.title = request.title});
+    };
     printing::backend().dialog =
         [this](const printing::Document &document) -> std::optional<printing::Choice> {
         m_titles += document.name;

@@ -1,4 +1,4 @@
-// A printer of the test's own: every print command goes past the preview and the dialog straight
+// A printer of the test's own: every print command goes past the preview and the dialogs straight
 // into a PDF file, which can be read back.
 #pragma once
 
@@ -19,6 +19,8 @@ public:
     PdfPrinter &operator=(const PdfPrinter &) = delete;
 
     void setCancels(bool cancels) { m_cancels = cancels; } // the print dialog
+    // How lists are wanted; when nothing was said: as proposed, upright, all of it.
+    void setOptions(const printing::ListOptions &options) { m_options = options; }
     const QStringList &titles() const { return m_titles; } // of the documents, in order
     QString path() const { return m_folder.filePath("printed.pdf"); }
     QStringList pages() const { return pdfPages(path()); } // of the last one
@@ -28,4 +30,5 @@ private:
     printing::Backend m_before;
     QStringList m_titles;
     bool m_cancels = false;
+    std::optional<printing::ListOptions> m_options;
 };

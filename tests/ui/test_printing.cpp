@@ -6,8 +6,10 @@
 #include "common/ui/PrintPages.h"
 
 #include "support/DialogDriver.h"
+#include "support/FakeHost.h"
 #include "support/PdfPrinter.h"
 #include "support/ScriptedPrompts.h"
+#include "support/TempPreferences.h"
 
 #include <gtest/gtest.h>
 
@@ -140,6 +142,68 @@ TEST(Printing, AnEmptyListOrACancelledDialogPrintsNothing)
     EXPECT_FALSE(QFile::exists(printer.path()));
 }
 
+TEST(Printing, TheOptionsOfAListDecideAndAreKept)
+{
+    const TempPreferences preferences;
+    const FakeHost machine;
+    const auto options = printing::backend().options;
+    const PdfPrinter printer; // puts the backend back at the end
+    printing::backend().options = options;
+    Document seen;
+    printing::backend().preview = [&seen](const Document &document) { seen = document; };
+    ListView lv;
+    fill(lv, 12);
+    LvSelectItem(&lv, "N5");
+    const auto checked = [](QWidget *form, const char *name) {
+        return form->findChild<QAbstractButton *>(name)->isChecked();
+    };
+    const auto print = [&](const std::function<void(QWidget *, QLineEdit *)> &person) {
+        seen = {};
+        const DialogDriver driver([&](QWidget *form) {
+            EXPECT_EQ(form->objectName(), "frmRptOption");
+            person(form, form->findChild<QLineEdit *>("txtTitle"));
+        });
+        ListViewPrint_GetPrinter(lv, "Countries @ 3:05", "RptTitle Countries");
+    };
+    const auto rows = [&] {
+        {
+            QPdfWriter paper(printer.path());
+            seen.draw(paper);
+        }
+        return static_cast<int>(joined(printer.pages()).count("Person"));
+    };
+
+    print([&](QWidget *form, QLineEdit *title) {
+        EXPECT_EQ(title->text(), "Countries @ 3:05");
+        EXPECT_TRUE(checked(form, "optWhatToPrintView") &&
+                    checked(form, "optOrientationLandscape") && !checked(form, "ckDT"));
+        title->setText("Where they live");
+        for (const char *name :
+             {"optWhatToPrintSelected", "optOrientationPortrait", "ckDT", "OKButton"})
+            form->findChild<QAbstractButton *>(name)->click();
+    });
+    EXPECT_EQ(seen.name, "Where they live - 3/14/2004 @ 3:05:09 PM");
+    EXPECT_EQ(seen.orientation, QPageLayout::Portrait);
+    EXPECT_EQ(rows(), 1);
+    EXPECT_TRUE(joined(printer.pages()).contains("Person5"));
+
+    lv.clearSelection();
+    print([&](QWidget *form, QLineEdit *title) {
+        EXPECT_EQ(title->text(), "Where they live");
+        EXPECT_TRUE(checked(form, "optWhatToPrintView") &&
+                    checked(form, "optOrientationPortrait") && checked(form, "ckDT"));
+        EXPECT_FALSE(form->findChild<QWidget *>("optWhatToPrintSelected")->isEnabled());
+        title->setText("Countries @ 3:05");
+        clickButton(form, "OKButton");
+    });
+    EXPECT_EQ(rows(), 12);
+    EXPECT_EQ(GetPrefLong("RptPrintSingleRowOnly"), 1) << "there was no choice";
+    EXPECT_EQ(GetPrefStr("RptTitle Countries"), QString()) << "the proposed one tells the time";
+
+    print([](QWidget *form, QLineEdit *) { clickButton(form, "CancelButton"); });
+    EXPECT_EQ(seen.draw, nullptr);
+}
+
 TEST(Printing, ATextRunsOverPagesUnderItsHeader)
 {
     const PdfPrinter printer;
@@ -216,18 +280,22 @@ TEST(Printing, ALongListTellsHowFarItIsAndCanBeStopped)
     EXPECT_TRUE(person.progress().back().closed);
 
     // A preview without its pages goes by itself.
+    const DialogDriver options([](QWidget *window) { clickButton(window, "OKButton"); });
     ListViewPrint_GetPrinter(lv, "Customers");
     EXPECT_EQ(person.progress().size(), 3U);
 }
 
 TEST(Printing, ThePreviewTurnsPagesAndSavesThemAndThePrintDialogIsBehindIt)
 {
+    const TempPreferences preferences;
+    SetPrefLong("RptPageOrientation", 1);
     ListView lv;
     fill(lv, 110);
     const QTemporaryDir folder;
     const QString file = folder.filePath("list.pdf");
     ScriptedPrompts person;
     person.expectSaveFile("Save As", file);
+    const DialogDriver options([](QWidget *window) { clickButton(window, "OKButton"); });
     const DialogDriver preview([&](QWidget *window) {
         auto *label = window->findChild<QLabel *>("lblPage");
         ASSERT_TRUE(QTest::qWaitFor([&] { return label->text().startsWith("Page 1 of "); }));

@@ -18,7 +18,7 @@ void ItemListDialog::connectControls(QPushButton *cmdPrint, QPushButton *cmdClos
         },
         m_nameLength);
     connect(m_lv, &ListView::itemSelectionChanged, this, [this] { SetUI(); });
-    onClick(cmdPrint, [this] { ListViewPrint_GetPrinter(*m_lv, windowTitle()); });
+    onClick(cmdPrint, [this] { ListViewPrint_GetPrinter(*m_lv, windowTitle(), titleKey()); });
     onClick(m_refresh, [this] { LoadData(); });
     connect(cmdClose, &QPushButton::clicked, this, &QDialog::accept);
 }

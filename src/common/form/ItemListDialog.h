@@ -39,6 +39,8 @@ protected:
     virtual clsDB::ListTable table() const = 0;
     virtual void LoadData() = 0;
     virtual void SetUI() = 0;
+    // Of the setting that keeps the title under which the person prints this list.
+    virtual QString titleKey() const = 0;
 
     void keyPressEvent(QKeyEvent *event) override;
 

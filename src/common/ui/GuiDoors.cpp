@@ -55,7 +55,7 @@ void installGuiDoors(QWidget *mainWindow)
     backend.saveFile = guidialogs::saveFile;
     backend.progress = guidialogs::progress;
 
-    printing::backend() = {guiprinting::preview, guiprinting::dialog};
+    printing::backend() = {guiprinting::preview, guiprinting::dialog, guiprinting::options};
 
     host().pumpEvents = [] { QCoreApplication::processEvents(); };
     host().repaint = [] { QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); };

@@ -3,6 +3,7 @@
 #include "common/base/AppInfo.h"
 #include "common/base/Prompts.h"
 #include "common/ui/frmPreview.h"
+#include "common/ui/frmRptOption.h"
 #include "common/ui/GuiDialogs.h"
 
 #include <QPrintDialog>
@@ -70,4 +71,17 @@ std::optional<printing::Choice> guiprinting::dialog(const printing::Document &do
     if (printer->outputFormat() == QPrinter::PdfFormat)
         choice.pdfFile = printer->outputFileName();
     return choice;
+}
+
+std::optional<printing::ListOptions> guiprinting::options(const printing::ListRequest &request)
+{
+    const guidialogs::CursorPause pause;
+    frmRptOption form(guidialogs::windowInUse());
+    form.setTitle(request.title);
+    form.setRowSelected(request.rowSelected);
+    form.RestoreRptTitle(request.titleKey);
+    form.exec();
+    if (!form.m_bOK)
+        return std::nullopt;
+    return form.options();
 }

@@ -1,4 +1,4 @@
-// The preview window and the print dialog that installGuiDoors puts behind printing::.
+// The preview window and the dialogs that installGuiDoors puts behind printing::.
 #pragma once
 
 #include "common/ui/PrintDoor.h"
@@ -8,5 +8,6 @@ namespace guiprinting
 
 void preview(const printing::Document &document);
 std::optional<printing::Choice> dialog(const printing::Document &document);
+std::optional<printing::ListOptions> options(const printing::ListRequest &request);
 
 } // namespace guiprinting

@@ -21,8 +21,14 @@ printing::Backend &printing::backend()
 {
     // Without a graphical layer there is nobody to choose a printer.
     static Backend instance{[](const Document &) {},
-                            [](const Document &) { return std::optional<Choice>(); }};
+                            [](const Document &) { return std::optional<Choice>(); },
+                            [](const ListRequest &) { return std::optional<ListOptions>(); }};
     return instance;
+}
+
+std::optional<printing::ListOptions> printing::listOptions(const ListRequest &request)
+{
+    return backend().options(request);
 }
 
 void printing::preview(const Document &document)

@@ -1,5 +1,5 @@
-// Door to the printer: the preview window and the print dialog. One replaceable backend stands
-// behind both, as with prompts::; the real one is in GuiPrinting.cpp.
+// Door to the printer: the options of a list, the preview window and the print dialog. One
+// replaceable backend stands behind them, as with prompts::; the real one is in GuiPrinting.cpp.
 #pragma once
 
 #include <QPageLayout>
@@ -28,13 +28,31 @@ struct Choice {
     QString pdfFile; // not empty: a file is wanted, with the page layout of `printer`
 };
 
+// A list that is to be printed, before the person was asked how.
+struct ListRequest {
+    QString title;            // proposed
+    QString titleKey;         // of the setting that keeps a title given instead; empty: none does
+    bool rowSelected = false; // so that it can be printed alone
+};
+
+// How it is to be printed.
+struct ListOptions {
+    QString title;
+    QPageLayout::Orientation orientation = QPageLayout::Portrait;
+    bool selectedOnly = false;
+    bool dateStamp = false;
+};
+
 struct Backend {
     std::function<void(const Document &)> preview;
     std::function<std::optional<Choice>(const Document &)> dialog;
+    std::function<std::optional<ListOptions>(const ListRequest &)> options;
 };
 
 Backend &backend();
 
+// Asks how a list is to be printed (frmRptOption); nothing when cancelled.
+std::optional<ListOptions> listOptions(const ListRequest &request);
 // Shows the document; the preview offers to print it.
 void preview(const Document &document);
 // The print dialog, titled "Print"; nothing when cancelled.

@@ -8,6 +8,7 @@
 #include "common/ui/PrintPages.h"
 #include "common/ui/PrintProgress.h"
 
+#include <algorithm>
 #include <cmath>
 #include <numeric>
 
@@ -36,13 +37,28 @@ QString headingOf(const ListView &lv, int column)
     return lv.model()->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
 }
 
-PrintedTable printed(const ListView &lv)
+QList<int> selectedRows(const ListView &lv)
+{
+    QList<int> rows;
+    const QModelIndexList selected = lv.selectionModel()->selectedRows();
+    for (const QModelIndex &index : selected)
+        rows.append(index.row());
+    std::sort(rows.begin(), rows.end());
+    return rows;
+}
+
+PrintedTable printed(const ListView &lv, bool selectedOnly = false)
 {
     PrintedTable table{.headings = {},
                        .widths = columnWidths(lv),
                        .rows = lv.itemCount(),
                        .text = [&lv](int row, int column) { return lv.itemText(row, column); },
                        .font = lv.font()};
+    if (selectedOnly) {
+        const QList<int> rows = selectedRows(lv);
+        table.rows = static_cast<int>(rows.size());
+        table.text = [&lv, rows](int row, int column) { return lv.itemText(rows[row], column); };
+    }
     for (int column = 0; column < table.widths.size(); ++column)
         table.headings.append(headingOf(lv, column));
     return table;
@@ -182,16 +198,25 @@ bool ListViewPrint(const ListView &lv, QPagedPaintDevice &device, int left, int 
     return TablePrint(printed(lv), device, left, top, right, bottom, title);
 }
 
-void ListViewPrint_GetPrinter(const ListView &lv, const QString &title)
+void ListViewPrint_GetPrinter(const ListView &lv, const QString &title, const QString &titleKey)
 {
     if (lv.itemCount() == 0) {
         prompts::inform(QStringLiteral("The list is empty. There is nothing to print."));
         return;
     }
-    printing::preview({.name = title, .draw = [&lv, title](QPagedPaintDevice &device) {
-                           return ListViewPrint(lv, device, kMargin, kMargin, kMargin, kMargin,
-                                                title);
-                       }});
+    const std::optional<printing::ListOptions> chosen = printing::listOptions(
+        {.title = title, .titleKey = titleKey, .rowSelected = LvIsItemSelected(&lv)});
+    if (!chosen)
+        return;
+    const QString name =
+        chosen->dateStamp ? chosen->title + u" - " + clsSystem::CurrDateTimeShort() : chosen->title;
+    printing::preview({.name = name,
+                       .draw =
+                           [&lv, name, only = chosen->selectedOnly](QPagedPaintDevice &device) {
+                               return TablePrint(printed(lv, only), device, kMargin, kMargin,
+                                                 kMargin, kMargin, name);
+                           },
+                       .orientation = chosen->orientation});
 }
 
 QString LVContent(const ListView &lv)

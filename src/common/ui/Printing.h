@@ -13,9 +13,11 @@ class ListView;
 class QPagedPaintDevice;
 class QPlainTextEdit;
 
-// The print command of a list: a preview, from there the print dialog, then one ListViewPrint a
-// copy. An empty list says so instead.
-void ListViewPrint_GetPrinter(const ListView &lv, const QString &title);
+// The print command of a list: its options, a preview, from there the print dialog, then one
+// document a copy. An empty list says so instead. A title that the person gives in place of this
+// one is kept in the setting of that name and comes back the next time; without a name it is not.
+void ListViewPrint_GetPrinter(const ListView &lv, const QString &title,
+                              const QString &titleKey = {});
 // One document, all columns side by side: the title and the headings on every page, one line a
 // row, a page number below. An empty list prints nothing. False when the device refused or
 // the person cancelled.
