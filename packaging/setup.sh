@@ -2,6 +2,7 @@
 # "a|b" names alternatives; the first one that this release of Debian or Ubuntu has is taken.
 
 norvane_build_packages=(g++ cmake ninja-build ccache qt6-base-dev "qt6-svg-dev|libqt6svg6-dev" fonts-dejavu-core)
+norvane_build_packages+=(qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools) # the translations
 norvane_test_packages=(libgtest-dev poppler-utils bindfs)
 norvane_test_packages+=(desktop-file-utils appstream man-db bsdextrautils lintian dpkg-dev file) # the package
 norvane_lint_packages=(clang-format clang-tidy)

@@ -13,10 +13,9 @@ namespace
 
 const QString customersCode = QStringLiteral("MAIN_NEWCUSTOMER");
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("ImportTargets", text);
-}
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(ImportTargets)
+};
 
 QString label(const char *field)
 {
@@ -25,35 +24,38 @@ QString label(const char *field)
 
 QString sampleFile(const char *name)
 {
-    return tr("A sample import file called '%1' is available in %2 to get you started. You can "
-              "open this file with MS Excel.")
+    return Words::tr(
+               "A sample import file called '%1' is available in %2 to get you started. You can "
+               "open this file with MS Excel.")
         .arg(QLatin1String(name), QDir::toNativeSeparators(app::programFolder()));
 }
 
 QString fileFormat()
 {
-    return tr("The import file format required is a Comma Separated Value file, usually prepared "
-              "in MS Excel and Saved, As 'CSV (Comma Delimited)' file.");
+    return Words::tr(
+        "The import file format required is a Comma Separated Value file, usually prepared "
+        "in MS Excel and Saved, As 'CSV (Comma Delimited)' file.");
 }
 
 QString looksLike()
 {
-    return tr("Here's how an import file should look like when opened with Windows Notepad "
-              "Application:");
+    return Words::tr("Here's how an import file should look like when opened with Windows Notepad "
+                     "Application:");
 }
 
 QStringList listHelp()
 {
     return {
-        tr("%1 allows you to import items into this list from a file. ").arg(app::title()) +
+        Words::tr("%1 allows you to import items into this list from a file. ").arg(app::title()) +
             fileFormat(),
-        tr("The first row (Row 1) of the import file must contain column headings. The only "
-           "column heading required for this import is:"),
+        Words::tr("The first row (Row 1) of the import file must contain column headings. The only "
+                  "column heading required for this import is:"),
         QStringLiteral("DESCRIPTION"),
-        tr("All rows (except the first row which must contain the column heading) in the import "
-           "file are added as NEW items into the list. Description for each item should appear "
-           "starting from Row 2. We recommend preparing this file in MS Excel and saving as 'CSV "
-           "(Comma Delimited)' file."),
+        Words::tr(
+            "All rows (except the first row which must contain the column heading) in the import "
+            "file are added as NEW items into the list. Description for each item should appear "
+            "starting from Row 2. We recommend preparing this file in MS Excel and saving as 'CSV "
+            "(Comma Delimited)' file."),
         looksLike(),
         QStringLiteral("DESCRIPTION\nItem Desc 1\nItem Desc 2"),
         sampleFile("Sample Lookup List Import.csv"),
@@ -66,18 +68,20 @@ QStringList customerHelp()
     for (const clsImportColDef &column : customerImportColumns())
         headings += column.name;
     return {
-        tr("%1 allows you to import Customer information into its database from a file. ")
+        Words::tr("%1 allows you to import Customer information into its database from a file. ")
                 .arg(app::title()) +
             fileFormat(),
-        tr("The first row (Row 1) of the import file must contain column headings. The only "
-           "column headings required for this import file are LASTNAME and COMPANY. The rest of "
-           "the columns are optional. Here's a list of all the recognized/importable column "
-           "headings:"),
+        Words::tr(
+            "The first row (Row 1) of the import file must contain column headings. The only "
+            "column headings required for this import file are LASTNAME and COMPANY. The rest of "
+            "the columns are optional. Here's a list of all the recognized/importable column "
+            "headings:"),
         headings.join(u'\n'),
-        tr("Each column heading must appear in a separate column. All rows (except the first row "
-           "which must contain the column heading) in the import file are added as NEW customers. "
-           "Data for each customer should appear starting from Row 2. We recommend preparing this "
-           "file in MS Excel and saving as 'CSV (Comma Delimited)' file."),
+        Words::tr(
+            "Each column heading must appear in a separate column. All rows (except the first row "
+            "which must contain the column heading) in the import file are added as NEW customers. "
+            "Data for each customer should appear starting from Row 2. We recommend preparing this "
+            "file in MS Excel and saving as 'CSV (Comma Delimited)' file."),
         looksLike(),
         QStringLiteral("FIRSTNAME, LASTNAME, COMPANY, WORKPHONE\n"
                        "John, Smith, JS Company, 800-123-5678\n"
@@ -95,26 +99,27 @@ qint32 ImportTarget::number() const
 
 QList<ImportTarget> importTargets()
 {
-    const QString list = tr("Lookup List: ");
+    const QString list = Words::tr("Lookup List: ");
     return {
-        {tr("Customers"), customersCode},
-        {list + tr("Customer %1").arg(label("custcat")), 1},
-        {list + tr("Products & Services"), 2},
-        {list + tr("Contract Types"), 103},
-        {list + tr("Contract Durations"), 104},
+        {Words::tr("Customers"), customersCode},
+        {list + Words::tr("Customer %1").arg(label("custcat")), 1},
+        {list + Words::tr("Products & Services"), 2},
+        {list + Words::tr("Contract Types"), 103},
+        {list + Words::tr("Contract Durations"), 104},
         {list + label("state"), 3},
         {list + label("country"), 4},
-        {list + tr("Issue Statuses"), 101},
-        {list + tr("Issue Actions"), 106},
-        {list + tr("Issue Priorities"), 102},
-        {list + tr("Issue %1").arg(CustomLabels.GetIssueLabelName(QStringLiteral("issuecat"))),
+        {list + Words::tr("Issue Statuses"), 101},
+        {list + Words::tr("Issue Actions"), 106},
+        {list + Words::tr("Issue Priorities"), 102},
+        {list +
+             Words::tr("Issue %1").arg(CustomLabels.GetIssueLabelName(QStringLiteral("issuecat"))),
          105},
     };
 }
 
 QString importFormatHelp(const ImportTarget &target)
 {
-    QStringList paragraphs{tr("IMPORT - %1").arg(target.text)};
+    QStringList paragraphs{Words::tr("IMPORT - %1").arg(target.text)};
     paragraphs += target.number() == ImportRun::NewCustomers ? customerHelp() : listHelp();
     return paragraphs.join(QLatin1String("\n\n"));
 }

@@ -3,10 +3,16 @@
 #include "admin/frmEditCategories.h"
 #include "db/LookupTypes.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 namespace
 {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(LookupLists)
+};
 
 using schema::Table;
 
@@ -27,60 +33,63 @@ constexpr Reference Nowhere{Table::Category, nullptr};
 
 constexpr ListInfo lists[] = {
     {lookup_type::CustomerCategories,
-     "Edit Customer Categories",
-     "Customer Categories",
+     QT_TRANSLATE_NOOP("LookupLists", "Edit Customer Categories"),
+     QT_TRANSLATE_NOOP("LookupLists", "Customer Categories"),
      "LISTMGMT_CUSTOMERCATEGORIES",
      {{Table::Customer, "custcat"}, Nowhere}},
     {lookup_type::Products,
-     "Edit Products/Services",
-     "Products/Services",
+     QT_TRANSLATE_NOOP("LookupLists", "Edit Products/Services"),
+     QT_TRANSLATE_NOOP("LookupLists", "Products/Services"),
      "LISTMGMT_PRODUCTSERVICECATEGORIES",
      {{Table::Customer2PS, "psid"}, {Table::Issues, "psid"}}},
     {lookup_type::States,
-     "Edit States/Provinces",
-     "States/Provinces",
+     QT_TRANSLATE_NOOP("LookupLists", "Edit States/Provinces"),
+     QT_TRANSLATE_NOOP("LookupLists", "States/Provinces"),
      "LISTMGMT_STATECATEGORIES",
      {{Table::Customer, "state"}, Nowhere}},
     {lookup_type::Countries,
-     "Edit Countries",
-     "Countries",
+     QT_TRANSLATE_NOOP("LookupLists", "Edit Countries"),
+     QT_TRANSLATE_NOOP("LookupLists", "Countries"),
      "LISTMGMT_COUNTRYCATEGORIES",
      {{Table::Customer, "country"}, Nowhere}},
     {lookup_type::IssueStatuses,
-     "Edit Issue Statuses",
-     "Issue Statuses",
+     QT_TRANSLATE_NOOP("LookupLists", "Edit Issue Statuses"),
+     QT_TRANSLATE_NOOP("LookupLists", "Issue Statuses"),
      "LISTMGMT_ISSUESTATUSES",
      {{Table::Issues, "status"}, Nowhere}},
     {lookup_type::IssuePriorities,
-     "Edit Issue Priorities",
-     "Issue Priorities",
+     QT_TRANSLATE_NOOP("LookupLists", "Edit Issue Priorities"),
+     QT_TRANSLATE_NOOP("LookupLists", "Issue Priorities"),
      "LISTMGMT_ISSUEPRIORITIES",
      {{Table::Issues, "priority"}, Nowhere}},
     {lookup_type::ContractTypes,
-     "Edit Contract Types",
-     "Contract Types",
+     QT_TRANSLATE_NOOP("LookupLists", "Edit Contract Types"),
+     QT_TRANSLATE_NOOP("LookupLists", "Contract Types"),
      "LISTMGMT_CONTRACTTYPECATEGORIES",
      {{Table::Customer2PS, "conttype"}, Nowhere}},
     {lookup_type::ContractDurations,
-     "Edit Contract Durations",
-     "Contract Durations",
+     QT_TRANSLATE_NOOP("LookupLists", "Edit Contract Durations"),
+     QT_TRANSLATE_NOOP("LookupLists", "Contract Durations"),
      "LISTMGMT_CONTRACTDURATIONCATEGORIES",
      {{Table::Customer2PS, "contdur"}, Nowhere}},
     {lookup_type::IssueCategories,
-     "Edit Issue Categories",
-     "Issue Categories",
+     QT_TRANSLATE_NOOP("LookupLists", "Edit Issue Categories"),
+     QT_TRANSLATE_NOOP("LookupLists", "Issue Categories"),
      "LISTMGMT_ISSUECATETORIES",
      {{Table::Issues, "issuecat"}, Nowhere}},
     {lookup_type::IssueActions,
-     "Edit Issue Actions",
-     "Issue Actions",
+     QT_TRANSLATE_NOOP("LookupLists", "Edit Issue Actions"),
+     QT_TRANSLATE_NOOP("LookupLists", "Issue Actions"),
      "LISTMGMT_ISSUEACTIONSTATUSES",
      {{Table::IssuesActions, "action"}, Nowhere}},
 };
 
 // Choices for the custom fields, which keep plain text: no record refers to them.
-constexpr ListInfo quickEntries = {
-    0, "Edit Quick Entry List", "Quick Entry List", "LISTMGMT_CUSTOMFIELDS", {Nowhere, Nowhere}};
+constexpr ListInfo quickEntries = {0,
+                                   QT_TRANSLATE_NOOP("LookupLists", "Edit Quick Entry List"),
+                                   QT_TRANSLATE_NOOP("LookupLists", "Quick Entry List"),
+                                   "LISTMGMT_CUSTOMFIELDS",
+                                   {Nowhere, Nowhere}};
 
 const ListInfo *listInfo(qint32 type)
 {
@@ -98,8 +107,8 @@ std::optional<LookupList> lookupList(qint32 type)
     const ListInfo *info = listInfo(type);
     if (info == nullptr)
         return std::nullopt;
-    LookupList list{.caption = QString::fromLatin1(info->caption),
-                    .name = QString::fromLatin1(info->name),
+    LookupList list{.caption = Words::tr(info->caption),
+                    .name = Words::tr(info->name),
                     .table = {schema::table(Table::Category).dataFile(), gDB.CategoryTable(),
                               QStringLiteral("rowid"), QStringLiteral("desc"), type},
                     .usedBy = {},

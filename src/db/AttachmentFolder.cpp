@@ -3,6 +3,7 @@
 #include "common/base/clsSystem.h"
 #include "common/base/Host.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 
@@ -11,6 +12,10 @@
 
 namespace
 {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(AttachmentFolder)
+};
 
 namespace fs = std::filesystem;
 
@@ -105,7 +110,7 @@ FileCopyOutcome AttachmentFolder::add(const QString &source, const QString &name
                                       const FileCopyWatch &watch) const
 {
     if (!exists() || !isPlainName(name))
-        return {FileCopyOutcome::End::Failed, QStringLiteral("No such folder or name")};
+        return {FileCopyOutcome::End::Failed, Words::tr("No such folder or name")};
     dropOldWork();
     // During a long copy a link may have taken the folder's place.
     const auto place = [&](const QString &written) {

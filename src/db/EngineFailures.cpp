@@ -2,6 +2,7 @@
 
 #include "common/base/Prompts.h"
 
+#include <QCoreApplication>
 #include <QFile>
 
 #include <utility>
@@ -12,6 +13,10 @@ using norvane::engine::ErrorKind;
 namespace
 {
 
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(EngineFailures)
+};
+
 QString fileName(const Error &error)
 {
     return QString::fromStdString(error.file);
@@ -21,27 +26,27 @@ QString notFoundText(const Error &error)
 {
     const QString file = fileName(error);
     if (QFile::exists(file)) {
-        return QStringLiteral("The file '%1' lacks a part that this program works with: %2.")
+        return Words::tr("The file '%1' lacks a part that this program works with: %2.")
             .arg(file, QString::fromStdString(error.detail));
     }
-    return QStringLiteral("The file '%1' is missing. All files of a database must be together in "
-                          "its folder. Please restore the data folder from your latest backup.")
+    return Words::tr("The file '%1' is missing. All files of a database must be together in "
+                     "its folder. Please restore the data folder from your latest backup.")
         .arg(file);
 }
 
 QString damageText(const Error &error)
 {
     const QString file = fileName(error);
-    QString text = QStringLiteral("The file '%1' is damaged").arg(file);
+    QString text = Words::tr("The file '%1' is damaged").arg(file);
     if (error.place >= 0)
-        text += QStringLiteral(" (at %1)").arg(error.place);
-    text += u".\n\nPlease make a copy of the whole data folder first. ";
+        text += Words::tr(" (at %1)").arg(error.place);
+    text += Words::tr(".\n\nPlease make a copy of the whole data folder first. ");
     if (file.endsWith(u".cdx", Qt::CaseInsensitive)) {
-        text += u"Then choose Database Maintenance to re-index this file. Your data is not in it "
-                u"and is not lost.";
+        text += Words::tr("Then choose Database Maintenance to re-index this file. Your data is "
+                          "not in it and is not lost.");
     } else {
-        text += u"Then choose Database Maintenance to re-index the table, or restore the data "
-                u"folder from your latest backup.";
+        text += Words::tr("Then choose Database Maintenance to re-index the table, or restore the "
+                          "data folder from your latest backup.");
     }
     return text;
 }
@@ -84,40 +89,40 @@ QString engineFailureText(const Error &error)
     case ErrorKind::NotFound:
         return notFoundText(error);
     case ErrorKind::Locked:
-        return QStringLiteral("The file '%1' is in use by another workstation. Please try again "
-                              "in a moment.")
+        return Words::tr("The file '%1' is in use by another workstation. Please try again "
+                         "in a moment.")
             .arg(file);
     case ErrorKind::ReadOnly:
-        return QStringLiteral("The file '%1' cannot be changed: it or its folder is read-only for "
-                              "you. Please ask your administrator for the right to change files "
-                              "in the data folder.")
+        return Words::tr("The file '%1' cannot be changed: it or its folder is read-only for "
+                         "you. Please ask your administrator for the right to change files "
+                         "in the data folder.")
             .arg(file);
     case ErrorKind::Damaged:
         return damageText(error);
     case ErrorKind::Refused:
-        return QStringLiteral("The file '%1' holds something this program does not work with: %2.")
+        return Words::tr("The file '%1' holds something this program does not work with: %2.")
             .arg(file, QString::fromStdString(error.detail));
     case ErrorKind::NoSpace:
-        return QStringLiteral("The disk that holds '%1' is full. Nothing was saved. Please make "
-                              "room and save again.")
+        return Words::tr("The disk that holds '%1' is full. Nothing was saved. Please make "
+                         "room and save again.")
             .arg(file);
     case ErrorKind::TooLarge:
-        return QStringLiteral("The file '%1' has reached the largest size it can have. Nothing "
-                              "was saved.")
+        return Words::tr("The file '%1' has reached the largest size it can have. Nothing "
+                         "was saved.")
             .arg(file);
     case ErrorKind::Gone:
-        return QStringLiteral("The file '%1' cannot be reached any more. If the data folder is on "
-                              "another computer, please verify that computer is up and running, "
-                              "and then try again.")
+        return Words::tr("The file '%1' cannot be reached any more. If the data folder is on "
+                         "another computer, please verify that computer is up and running, "
+                         "and then try again.")
             .arg(file);
     case ErrorKind::NoMemory:
-        return QStringLiteral("There is not enough memory. Nothing was saved. Please close other "
-                              "programs and try again.");
+        return Words::tr("There is not enough memory. Nothing was saved. Please close other "
+                         "programs and try again.");
     case ErrorKind::None:
     case ErrorKind::Misuse:
     case ErrorKind::Io:
         break;
     }
-    return QStringLiteral("The file '%1' could not be read or written: %2.")
+    return Words::tr("The file '%1' could not be read or written: %2.")
         .arg(file, QString::fromStdString(error.detail));
 }

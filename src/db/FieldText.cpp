@@ -3,12 +3,18 @@
 #include "common/base/Ansi.h"
 #include "common/base/Prompts.h"
 
+#include <QCoreApplication>
+
 #include <string_view>
 
 using namespace norvane::engine;
 
 namespace
 {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(FieldText)
+};
 
 // Longer memos can be written but are not read.
 constexpr std::uint32_t MemoReadLimit = 32768;
@@ -49,11 +55,11 @@ QString MemoText(Handle field)
     if (length < MemoReadLimit)
         return fromStored(f4memoPtr(field), static_cast<qsizetype>(length));
 
-    const QString text = u"Error #: -910\nUnexpected Information\n"
-                         u"Memo entry too long to return in String function. Try calling "
-                         u"'f4memoStrB'.\nField Name:\n" %
-                         FieldNameText(field);
-    prompts::critical(text, QStringLiteral("CodeBasic Error"));
+    const QString text = Words::tr("Error #: -910\nUnexpected Information\n"
+                                   "Memo entry too long to return in String function. Try calling "
+                                   "'f4memoStrB'.\nField Name:\n%1")
+                             .arg(FieldNameText(field));
+    prompts::critical(text, Words::tr("CodeBasic Error"));
     return {};
 }
 

@@ -3,6 +3,8 @@
 #include "common/base/clsSystem.h"
 #include "db/clsDB.h"
 
+#include <QCoreApplication>
+
 #include <span>
 
 clsCustomLabels CustomLabels;
@@ -10,50 +12,54 @@ clsCustomLabels CustomLabels;
 namespace
 {
 
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(clsCustomLabels)
+};
+
 struct DefaultName {
     const char *field;
     const char *name;
 };
 
 constexpr DefaultName customerNames[] = {
-    {"custno", "Customer Number"},
-    {"firstname", "First Name"},
-    {"lastname", "Last Name"},
-    {"company", "Company"},
-    {"custcat", "Category"},
-    {"title", "Title"},
-    {"address1", "Address (line 1)"},
-    {"address2", "Address (line 2)"},
-    {"city", "City"},
-    {"state", "State"},
-    {"postalcode", "Postal Code"},
-    {"country", "Country"},
-    {"workphone", "Work Phone"},
-    {"homephone", "Home Phone"},
-    {"mobilphone", "Mobile Phone"},
-    {"faxphone", "Fax Phone"},
-    {"emailname", "Default Email"},
-    {"emailname2", "Alternate Email"},
-    {"custom1", "Custom 1"},
-    {"custom2", "Custom 2"},
+    {"custno", QT_TRANSLATE_NOOP("clsCustomLabels", "Customer Number")},
+    {"firstname", QT_TRANSLATE_NOOP("clsCustomLabels", "First Name")},
+    {"lastname", QT_TRANSLATE_NOOP("clsCustomLabels", "Last Name")},
+    {"company", QT_TRANSLATE_NOOP("clsCustomLabels", "Company")},
+    {"custcat", QT_TRANSLATE_NOOP("clsCustomLabels", "Category")},
+    {"title", QT_TRANSLATE_NOOP("clsCustomLabels", "Title")},
+    {"address1", QT_TRANSLATE_NOOP("clsCustomLabels", "Address (line 1)")},
+    {"address2", QT_TRANSLATE_NOOP("clsCustomLabels", "Address (line 2)")},
+    {"city", QT_TRANSLATE_NOOP("clsCustomLabels", "City")},
+    {"state", QT_TRANSLATE_NOOP("clsCustomLabels", "State")},
+    {"postalcode", QT_TRANSLATE_NOOP("clsCustomLabels", "Postal Code")},
+    {"country", QT_TRANSLATE_NOOP("clsCustomLabels", "Country")},
+    {"workphone", QT_TRANSLATE_NOOP("clsCustomLabels", "Work Phone")},
+    {"homephone", QT_TRANSLATE_NOOP("clsCustomLabels", "Home Phone")},
+    {"mobilphone", QT_TRANSLATE_NOOP("clsCustomLabels", "Mobile Phone")},
+    {"faxphone", QT_TRANSLATE_NOOP("clsCustomLabels", "Fax Phone")},
+    {"emailname", QT_TRANSLATE_NOOP("clsCustomLabels", "Default Email")},
+    {"emailname2", QT_TRANSLATE_NOOP("clsCustomLabels", "Alternate Email")},
+    {"custom1", QT_TRANSLATE_NOOP("clsCustomLabels", "Custom 1")},
+    {"custom2", QT_TRANSLATE_NOOP("clsCustomLabels", "Custom 2")},
 };
 
 constexpr DefaultName subscriptionNames[] = {
-    {"shortdesc", "Short Description"},
-    {"contno", "Contract or Part Number"},
-    {"trackno", "Tracking Number:"},
-    {"conttype", "Contract Type"},
-    {"contdur", "Contract Duration"},
-    {"dateinit", "Date Initiated"},
-    {"dateterm", "Date Terminated"},
-    {"custom1", "Custom 1"},
-    {"custom2", "Custom 2"},
+    {"shortdesc", QT_TRANSLATE_NOOP("clsCustomLabels", "Short Description")},
+    {"contno", QT_TRANSLATE_NOOP("clsCustomLabels", "Contract or Part Number")},
+    {"trackno", QT_TRANSLATE_NOOP("clsCustomLabels", "Tracking Number:")},
+    {"conttype", QT_TRANSLATE_NOOP("clsCustomLabels", "Contract Type")},
+    {"contdur", QT_TRANSLATE_NOOP("clsCustomLabels", "Contract Duration")},
+    {"dateinit", QT_TRANSLATE_NOOP("clsCustomLabels", "Date Initiated")},
+    {"dateterm", QT_TRANSLATE_NOOP("clsCustomLabels", "Date Terminated")},
+    {"custom1", QT_TRANSLATE_NOOP("clsCustomLabels", "Custom 1")},
+    {"custom2", QT_TRANSLATE_NOOP("clsCustomLabels", "Custom 2")},
 };
 
 constexpr DefaultName issueNames[] = {
-    {"issuecat", "Category"},
-    {"custom1", "Custom 1"},
-    {"custom2", "Custom 2"},
+    {"issuecat", QT_TRANSLATE_NOOP("clsCustomLabels", "Category")},
+    {"custom1", QT_TRANSLATE_NOOP("clsCustomLabels", "Custom 1")},
+    {"custom2", QT_TRANSLATE_NOOP("clsCustomLabels", "Custom 2")},
 };
 
 QString withColon(const QString &name, bool addColon)
@@ -65,7 +71,7 @@ QString nameIn(std::span<const DefaultName> names, const QString &field, bool ad
 {
     for (const DefaultName &entry : names) {
         if (field.compare(QLatin1String(entry.field), Qt::CaseInsensitive) == 0)
-            return withColon(QString::fromLatin1(entry.name), addColon);
+            return withColon(Words::tr(entry.name), addColon);
     }
     return {};
 }
@@ -112,10 +118,11 @@ QList<clsCustomLabels::MenuLabel> clsCustomLabels::MenuLabels() const
         return GetPSLabelName(QLatin1String(field));
     };
     QList<MenuLabel> labels{
-        {QStringLiteral("CATCUST"), u"Customer " % customer("custcat")},
+        {QStringLiteral("CATCUST"), Words::tr("Customer %1").arg(customer("custcat"))},
         {QStringLiteral("CATSTATES"), customer("state")},
         {QStringLiteral("CATCOUNTRIES"), customer("country")},
-        {QStringLiteral("CATICAT"), u"Issue " % GetIssueLabelName(QStringLiteral("issuecat"))},
+        {QStringLiteral("CATICAT"),
+         Words::tr("Issue %1").arg(GetIssueLabelName(QStringLiteral("issuecat")))},
         {QStringLiteral("CATCONT"), subscription("conttype")},
         {QStringLiteral("CATCONTDUR"), subscription("contdur")}};
     for (MenuLabel &label : labels)

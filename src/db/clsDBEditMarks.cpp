@@ -5,8 +5,14 @@
 #include "common/base/Failure.h"
 #include "db/Screens.h"
 
+#include <QCoreApplication>
+
 namespace
 {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(clsDB)
+};
 
 const QString LockInfo = QStringLiteral("_lockinfo");
 
@@ -34,8 +40,8 @@ bool clsDB::CheckIfRecExists(const QString &path, const QString &tableName, qint
         return true;
     if (!NoMsg) {
         clsSystem::ShowMsg(
-            QStringLiteral("Record cannot be accessed or no longer exists. It may have been "
-                           "deleted by another user."));
+            Words::tr("Record cannot be accessed or no longer exists. It may have been "
+                      "deleted by another user."));
     }
     return false;
 }

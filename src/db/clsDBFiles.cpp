@@ -9,12 +9,17 @@
 #include "db/engine/File.h"
 #include "db/TableUse.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QStandardPaths>
 
 namespace
 {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(clsDB)
+};
 
 const QString LastDBPref = QStringLiteral("db");
 constexpr int PathAccess = 75;
@@ -44,8 +49,8 @@ bool fileMissing(const QString &dir, const QString &name)
 Failure notCreated(const QString &path)
 {
     return {PathAccess, app::title(),
-            QStringLiteral("The file '%1' could not be created. The folder may be read-only or the "
-                           "disk full.")
+            Words::tr("The file '%1' could not be created. The folder may be read-only or the "
+                      "disk full.")
                 .arg(path)};
 }
 
@@ -88,16 +93,14 @@ QString clsDB::DBMSFiles() const
     QStringList files;
     for (const schema::TableInfo &table : schema::tables())
         files += table.files();
-    return app::title() % u" database consists of the following " % QString::number(files.size()) %
-           u" files. All these files must exist together in a directory before a database can be "
-           u"opened. All these files must be BACKed up together as a unit and if needed, RESTOREd "
-           u"together as a unit\n\n" %
-           files.join(u'\n') %
-           u"\n\nNOTE: The attachments of your records are stored in the subdirectory '" %
-           AttachDir() %
-           u"' under your Norvane Data directory. Therefore, you will also need to back up all "
-           u"directories and files under " %
-           AttachDir();
+    return Words::tr("%1 database consists of the following %2 files. All these files must exist "
+                     "together in a directory before a database can be "
+                     "opened. All these files must be BACKed up together as a unit and if needed, "
+                     "RESTOREd together as a unit\n\n%3\n\n"
+                     "NOTE: The attachments of your records are stored in the subdirectory '%4' "
+                     "under your Norvane Data directory. Therefore, you will also need to back up "
+                     "all directories and files under %4")
+        .arg(app::title(), QString::number(files.size()), files.join(u'\n'), AttachDir());
 }
 
 QList<clsDB::FileTriple> clsDB::DataFilePaths() const
@@ -112,10 +115,10 @@ QList<clsDB::FileTriple> clsDB::DataFilePaths() const
 
 QString clsDB::openingHelp() const
 {
-    return QStringLiteral("If you have not previously created %1 database, please choose File, New "
-                          "Database... menu or if you have moved the %1 database files to another "
-                          "location choose File, Open Database... menu and select the directory "
-                          "that contains these files.")
+    return Words::tr("If you have not previously created %1 database, please choose File, New "
+                     "Database... menu or if you have moved the %1 database files to another "
+                     "location choose File, Open Database... menu and select the directory "
+                     "that contains these files.")
         .arg(app::title());
 }
 
@@ -210,9 +213,10 @@ bool clsDB::DirContainsValidData(const QString &dir)
         if (missing.isEmpty())
             return true;
         clsSystem::ShowMsg(
-            QString(u"OPEN FAILED!\nThe following data files are missing from the directory '" %
-                    dir % u"':\n" % missing.join(u'\n') % u"\n\n" % openingHelp() % u"\n\n" %
-                    DBMSFiles()),
+            Words::tr(
+                "OPEN FAILED!\nThe following data files are missing from the directory '%1':\n%2")
+                    .arg(dir, missing.join(u'\n')) +
+                u"\n\n" + openingHelp() + u"\n\n" + DBMSFiles(),
             prompts::Kind::Critical);
         return false;
     });
@@ -231,12 +235,11 @@ bool clsDB::DirIsClean(const QString &dir)
         if (present.isEmpty())
             return true;
         clsSystem::ShowMsg(
-            QString(u"NEW DATABASE CREATION FAILED!\nThe following data files already exist in "
-                    u"the directory '" %
-                    dir % u"':\n" % present.join(u'\n') %
-                    u"\nPlease select a directory that does not already contain " % app::title() %
-                    u" database or choose File, Open Database... menu to open an existing "
-                    u"database."),
+            Words::tr(
+                "NEW DATABASE CREATION FAILED!\nThe following data files already exist in the "
+                "directory '%1':\n%2\nPlease select a directory that does not already contain %3 "
+                "database or choose File, Open Database... menu to open an existing database.")
+                .arg(dir, present.join(u'\n'), app::title()),
             prompts::Kind::Critical);
         return false;
     });
@@ -270,7 +273,7 @@ bool clsDB::NewDB(const QString &dir)
         for (const QString &path : made) // or the next attempt would find them in its way
             clsSystem::DeleteFile(path);
         prompts::inform(
-            QStringLiteral("Please try re-installing %1 to resolve this issue.").arg(app::title()));
+            Words::tr("Please try re-installing %1 to resolve this issue.").arg(app::title()));
     }
     return created;
 }

@@ -7,6 +7,8 @@
 #include "db/FieldText.h"
 #include "db/TableUse.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <limits>
 #include <utility>
@@ -15,6 +17,10 @@ using namespace norvane::engine;
 
 namespace
 {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(clsDB)
+};
 
 constexpr qint32 FirstID = 1000;
 constexpr qint32 Locked = -1;
@@ -139,7 +145,7 @@ qint32 clsDB::takeIDs(const QString &tableName, qint32 count)
                 m_failures.note({ErrorKind::Damaged, LastIDTable().toStdString(), "counter"});
         }
         if (taken == Locked)
-            prompts::critical(QStringLiteral("RECORD LOCKED: Unable to get next id (locked)!"));
+            prompts::critical(Words::tr("RECORD LOCKED: Unable to get next id (locked)!"));
         return taken > 0 ? taken : -1;
     });
 }
@@ -222,7 +228,7 @@ bool clsDB::SetParamValue(const QString &name, const QString &value)
             if (!lock.heldElsewhere())
                 return false;
         }
-        prompts::critical(QStringLiteral("RECORD LOCKED: Unable to update record!"));
+        prompts::critical(Words::tr("RECORD LOCKED: Unable to update record!"));
         return false;
     });
 }

@@ -10,12 +10,18 @@
 #include "db/Screens.h"
 #include "db/TableUse.h"
 
+#include <QCoreApplication>
+
 using namespace norvane::engine;
 
 clsDB gDB;
 
 namespace
 {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(clsDB)
+};
 
 // A wait for a lock shorter than this needs no repainted window.
 constexpr std::chrono::milliseconds QuietWait{500};
@@ -51,7 +57,7 @@ bool clsDB::startSession(const QString &dir)
     m_sStation = clsSystem::GetLocalComputerName();
     if (m_hSession > 0)
         return true;
-    prompts::critical(QStringLiteral("CODE4 could NOT be initialized!"));
+    prompts::critical(Words::tr("CODE4 could NOT be initialized!"));
     m_sDBPath.clear();
     return false;
 }
@@ -127,11 +133,12 @@ void clsDB::OpenDBOnCommandLine(const QString &dir)
 
 void clsDB::CantOpenLastDB(const QString &dir)
 {
-    clsSystem::ShowMsg(QString(u"OPEN FAILED!\nDirectory '" % dir %
-                               u"' does not exist OR is NOT accessible at this time. If this "
-                               u"directory is located on another computer on the network, please "
-                               u"verify that computer is up and running.\n\n" %
-                               openingHelp()),
+    clsSystem::ShowMsg(Words::tr("OPEN FAILED!\nDirectory '%1' does not exist OR is NOT accessible "
+                                 "at this time. If this "
+                                 "directory is located on another computer on the network, please "
+                                 "verify that computer is up and running.")
+                               .arg(dir) +
+                           u"\n\n" + openingHelp(),
                        prompts::Kind::Critical);
 }
 

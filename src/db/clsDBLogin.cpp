@@ -8,8 +8,14 @@
 #include "db/Screens.h"
 #include "db/TableUse.h"
 
+#include <QCoreApplication>
+
 namespace
 {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(clsDB)
+};
 
 constexpr int PermissionCount = 30;
 constexpr int DefaultPermissions = 4; // customers, products and services, issues, reports
@@ -164,10 +170,10 @@ bool clsDB::CheckAdmin()
     if (m_bIsAdmin)
         return true;
     clsSystem::ShowMsg(
-        QStringLiteral("Only the users who have 'admin' role can perform this action!\n\n"
-                       "If you believe you should be able to perform this function, please ask "
-                       "your administrator to change your role to 'admin' (See Database Admin, "
-                       "User Management icon)."));
+        Words::tr("Only the users who have 'admin' role can perform this action!\n\n"
+                  "If you believe you should be able to perform this function, please ask "
+                  "your administrator to change your role to 'admin' (See Database Admin, "
+                  "User Management icon)."));
     return false;
 }
 
@@ -184,9 +190,9 @@ bool clsDB::CheckPerm(int position, bool NoMsg)
 void clsDB::NoPermissionMsg()
 {
     clsSystem::ShowMsg(
-        QStringLiteral("Sorry, you are not permitted to perform this action. Please ask your "
-                       "system administrator to grant this permission to your login '%1'. After "
-                       "your system administrator has granted you the permission, you will need "
-                       "to close down and then re-open %2.")
+        Words::tr("Sorry, you are not permitted to perform this action. Please ask your "
+                  "system administrator to grant this permission to your login '%1'. After "
+                  "your system administrator has granted you the permission, you will need "
+                  "to close down and then re-open %2.")
             .arg(m_sLoginName, app::title()));
 }

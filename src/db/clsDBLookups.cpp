@@ -9,10 +9,16 @@
 #include "db/FieldText.h"
 #include "db/TableUse.h"
 
+#include <QCoreApplication>
+
 using namespace norvane::engine;
 
 namespace
 {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(clsDB)
+};
 
 const QString RowidField = QStringLiteral("rowid");
 const QString TypeField = QStringLiteral("type");
@@ -213,12 +219,13 @@ qint32 clsDB::AddUpdateItem(const ListTable &list, qint32 id, const QString &tex
                     return storeChange(rows.handle()) ? id : 0;
                 }
                 if (lock.heldElsewhere())
-                    problem = u"RECORD LOCKED: Unable to update " % list.file % u'!';
+                    problem = Words::tr("RECORD LOCKED: Unable to update %1!").arg(list.file);
             }
             if (!found)
-                problem = u"Unable to update this item in table " % list.file %
-                          u"! It may have been deleted by another user. Press Refresh to get the "
-                          u"latest list.";
+                problem =
+                    Words::tr("Unable to update this item in table %1! It may have been deleted by "
+                              "another user. Press Refresh to get the latest list.")
+                        .arg(list.file);
         }
         // Boxes wait for the person, so they come when nothing is locked any more.
         if (!problem.isEmpty())

@@ -7,6 +7,7 @@
 #include "common/base/Prompts.h"
 #include "db/Screens.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 
@@ -18,6 +19,10 @@ using namespace norvane::engine;
 
 namespace
 {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(clsDB)
+};
 
 const QString StationFile = QStringLiteral("nvnstations.nvs");
 
@@ -37,10 +42,10 @@ bool clsDB::startWatch(bool thorough)
         QFile::setPermissions(path, QFile::permissions(clsSystem::LocalPath(LastIDTable())));
     if (found == StationWatch::Finding::Refused) {
         prompts::critical(
-            QStringLiteral("OPEN FAILED!\nThe directory '%1' does not take record locks (%2). "
-                           "Without them workstations would overwrite each other's work.\n\n"
-                           "Please ask your administrator to switch on file locking for this "
-                           "network directory.")
+            Words::tr("OPEN FAILED!\nThe directory '%1' does not take record locks (%2). "
+                      "Without them workstations would overwrite each other's work.\n\n"
+                      "Please ask your administrator to switch on file locking for this "
+                      "network directory.")
                 .arg(m_sDBPath, QString::fromStdString(m_watch.refusal())));
         return false;
     }
@@ -66,7 +71,7 @@ void clsDB::WatchStations()
 void clsDB::noteDeafLocks()
 {
     becomeReadOnly(
-        QStringLiteral("the record locks of the workstations do not reach each other"),
+        Words::tr("the record locks of the workstations do not reach each other"),
         QStringLiteral(
             "The record locks of the workstations in '%1' do not reach each other, so that two "
             "people could overwrite each other's work. Therefore this database is now open for "
@@ -80,8 +85,8 @@ void clsDB::noteDamage(const Error &damage)
 {
     const QString file = QString::fromStdString(damage.file);
     becomeReadOnly(
-        QStringLiteral("the file '%1' is damaged").arg(file),
-        QStringLiteral(
+        Words::tr("the file '%1' is damaged").arg(file),
+        Words::tr(
             "The file '%1' is damaged (%2), and mending it could lose something. Therefore this "
             "database is open for reading only: what can be read can be looked at, and nothing "
             "can be changed.\n\nPlease make a copy of the whole data folder first. Then let "
@@ -96,11 +101,11 @@ void clsDB::lookAtRight(const QString &path)
     if (!file.exists() || file.isWritable())
         return;
     becomeReadOnly(
-        QStringLiteral("you have no right to change the file '%1'").arg(path),
-        QStringLiteral("You have no right to change the file '%1'. Therefore this database is open "
-                       "for reading only: everything can be looked at, and nothing can be "
-                       "changed.\n\nPlease ask your administrator for the right to change the "
-                       "files in the data folder. Then open the database again.")
+        Words::tr("you have no right to change the file '%1'").arg(path),
+        Words::tr("You have no right to change the file '%1'. Therefore this database is open "
+                  "for reading only: everything can be looked at, and nothing can be "
+                  "changed.\n\nPlease ask your administrator for the right to change the "
+                  "files in the data folder. Then open the database again.")
             .arg(path));
 }
 
@@ -130,8 +135,8 @@ bool clsDB::MayWrite()
         return true;
     QString text = std::exchange(m_readOnlyNotice, {});
     if (text.isEmpty())
-        text = QStringLiteral("Nothing was changed: this database is open for reading only, "
-                              "because %1.")
+        text = Words::tr("Nothing was changed: this database is open for reading only, "
+                         "because %1.")
                    .arg(m_readOnlyReason);
     prompts::critical(text);
     return false;

@@ -9,11 +9,17 @@
 #include "db/FieldText.h"
 #include "db/TableUse.h"
 
+#include <QCoreApplication>
+
 using namespace norvane::engine;
 using schema::FieldKind;
 
 namespace
 {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(clsDB)
+};
 
 const QString RowidTag = QStringLiteral("rowid");
 
@@ -78,9 +84,9 @@ bool clsDB::updateRow(const RecColl &record, Handle table, bool NoMsg)
     }
     // Boxes wait for the person, so they come when nothing is locked any more.
     if (locked)
-        prompts::critical(QStringLiteral("RECORD LOCKED: Unable to update record!"));
+        prompts::critical(Words::tr("RECORD LOCKED: Unable to update record!"));
     else if (!found && !NoMsg)
-        prompts::critical(QStringLiteral("ROWID NOT FOUND: Unable to update record!"));
+        prompts::critical(Words::tr("ROWID NOT FOUND: Unable to update record!"));
     return stored;
 }
 
@@ -204,7 +210,7 @@ bool clsDB::ReadRecord(RecColl &record, bool NoMsg)
             }
         }
         if (!NoMsg)
-            prompts::critical(QStringLiteral("Unable to read row_id %1 from table %2")
+            prompts::critical(Words::tr("Unable to read row_id %1 from table %2")
                                   .arg(QString::number(rowid), path));
         return false;
     });

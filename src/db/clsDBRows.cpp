@@ -9,10 +9,16 @@
 #include "db/FieldText.h"
 #include "db/TableUse.h"
 
+#include <QCoreApplication>
+
 using namespace norvane::engine;
 
 namespace
 {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(clsDB)
+};
 
 constexpr int NumberKind = 2;
 const QString RowidTag = QStringLiteral("rowid");
@@ -37,7 +43,7 @@ Deletion deleteRow(TableUse &rows, qint32 key)
 
 void tellLocked(const QString &path, qint32 key)
 {
-    prompts::critical(QStringLiteral("RECORD LOCKED: Unable to Delete from %1(id=%2) !")
+    prompts::critical(Words::tr("RECORD LOCKED: Unable to Delete from %1(id=%2) !")
                           .arg(path, QString::number(key)));
 }
 
@@ -172,5 +178,5 @@ bool clsDB::TorF2Bool(const QString &value)
 
 QString clsDB::TorF2Str(const QString &value)
 {
-    return TorF2Bool(value) ? QStringLiteral("Yes") : QStringLiteral("No");
+    return TorF2Bool(value) ? Words::tr("Yes") : Words::tr("No");
 }

@@ -6,6 +6,8 @@
 #include "db/FieldText.h"
 #include "db/TableUse.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 using namespace norvane::engine;
@@ -17,6 +19,10 @@ std::string engineText(const QString &text)
 
 namespace
 {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(clsDB)
+};
 
 // A file of ours that holds something else altogether is no less damaged.
 bool isDamage(const Error &error)
@@ -82,7 +88,7 @@ clsDB::Handle clsDB::OpenTable(const QString &path)
         m_failures.clear(); // names the damage too
     m_failures.show();
     tellReadOnly();
-    prompts::critical(u"Unable to open: " % path);
+    prompts::critical(Words::tr("Unable to open: %1").arg(path));
     return 0;
 }
 

@@ -18,11 +18,9 @@ constexpr int pixels(int twips)
     return twips / 15;
 }
 
-QString heading(const char *text)
-{
-    return QCoreApplication::translate("ContactsGrid", text);
-}
-
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(ContactsGrid)
+};
 } // namespace
 
 namespace contacts
@@ -30,11 +28,11 @@ namespace contacts
 
 void setUp(Grid *grid)
 {
-    grid->setColumns({{heading("Name"), pixels(2000)},
-                      {heading("Title"), pixels(1440)},
-                      {heading("Address"), pixels(3500)},
-                      {heading("Telephone"), pixels(1440)},
-                      {heading("Email"), pixels(2000)}});
+    grid->setColumns({{Words::tr("Name"), pixels(2000)},
+                      {Words::tr("Title"), pixels(1440)},
+                      {Words::tr("Address"), pixels(3500)},
+                      {Words::tr("Telephone"), pixels(1440)},
+                      {Words::tr("Email"), pixels(2000)}});
     grid->setRows(kRows);
     for (int row = 1; row <= kRows; ++row)
         grid->setText(row, 0, QString::number(row));

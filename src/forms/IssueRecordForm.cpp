@@ -4,10 +4,15 @@
 #include "forms/IssueFieldsCtl.h"
 #include "ui_IssueFieldsCtl.h"
 
+#include <QCoreApplication>
 #include <QPlainTextEdit>
 
 namespace
 {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(IssueRecordForm)
+};
 
 constexpr int kRuleWidth = 80;
 
@@ -51,11 +56,11 @@ template <class Form>
 QString IssueRecordForm<Form>::mainLines() const
 {
     const Ui::IssueFieldsCtl &ui = m_fields->ui();
-    return line()(Form::tr("Short Description:"), ui.txtShortDesc->text()) +
-           line()(Form::tr("Product/Service:"), ui.cboPS->currentText()) +
-           line()(Form::tr("Status:"), ui.cboStatus->currentText()) +
-           line()(Form::tr("Priority:"), ui.cboPriority->currentText()) +
-           line()(Form::tr("Assigned To::"), ui.cboAssignedTo->currentText());
+    return line()(Words::tr("Short Description:"), ui.txtShortDesc->text()) +
+           line()(Words::tr("Product/Service:"), ui.cboPS->currentText()) +
+           line()(Words::tr("Status:"), ui.cboStatus->currentText()) +
+           line()(Words::tr("Priority:"), ui.cboPriority->currentText()) +
+           line()(Words::tr("Assigned To::"), ui.cboAssignedTo->currentText());
 }
 
 template <class Form>
@@ -70,8 +75,8 @@ QString IssueRecordForm<Form>::customLines() const
 template <class Form>
 QString IssueRecordForm<Form>::textBlocks() const
 {
-    return Form::tr("Description:") + u'\n' + m_txtDesc->toPlainText() + u'\n' + rule() +
-           Form::tr("Resolution:") + u'\n' + m_txtResolution->toPlainText() + u'\n' + rule();
+    return Words::tr("Description:") + u'\n' + m_txtDesc->toPlainText() + u'\n' + rule() +
+           Words::tr("Resolution:") + u'\n' + m_txtResolution->toPlainText() + u'\n' + rule();
 }
 
 template <class Form>

@@ -1,17 +1,20 @@
 #include "shell/CommandLine.h"
 
 #include "common/base/AppInfo.h"
+#include "shell/Language.h"
 
 #include <QTextStream>
 
 namespace
 {
 
+const QString languageOption = QStringLiteral("--language");
+
 QString usage()
 {
     return QStringLiteral(
-        "Usage: norvane [FOLDER]\n"
-        "       norvane --tour PICTURES [FOLDER]\n"
+        "Usage: norvane [FOLDER] [--language CODE]\n"
+        "       norvane --tour PICTURES [FOLDER] [--language CODE]\n"
         "\n"
         "Customer care for a small business.\n"
         "\n"
@@ -19,6 +22,8 @@ QString usage()
         "  --tour      go through the program by itself and save a picture of each step in the\n"
         "              folder PICTURES; needs no display. The new database of the tour is made\n"
         "              in FOLDER, or in a temporary folder.\n"
+        "  --language  show all texts in the language CODE (en, de); without it in that of the\n"
+        "              system, or in English when it is not there\n"
         "  --help      show this and end\n"
         "  --version   show the version and end\n");
 }
@@ -56,9 +61,7 @@ CommandLine readTour(const QStringList &arguments)
     return command;
 }
 
-} // namespace
-
-CommandLine readCommandLine(const QStringList &arguments)
+CommandLine readOptions(const QStringList &arguments)
 {
     CommandLine command;
     if (arguments.isEmpty() || !isOption(arguments.first()))
@@ -72,6 +75,30 @@ CommandLine readCommandLine(const QStringList &arguments)
         command.answer = CommandLine::Answer::Version;
     else
         return wrongUse(option);
+    return command;
+}
+
+} // namespace
+
+QString takeLanguage(QStringList &arguments)
+{
+    const qsizetype at = arguments.indexOf(languageOption);
+    if (at < 0)
+        return QLatin1String("");
+    arguments.removeAt(at);
+    return at < arguments.size() ? arguments.takeAt(at) : QString();
+}
+
+CommandLine readCommandLine(const QStringList &arguments)
+{
+    QStringList others = arguments;
+    const QString language = takeLanguage(others);
+    if (language.isNull())
+        return wrongUse(languageOption);
+    if (!language.isEmpty() && !Language::isThere(language))
+        return wrongUse(languageOption + u' ' + language);
+    CommandLine command = readOptions(others);
+    command.language = language;
     return command;
 }
 

@@ -12,7 +12,12 @@ struct CommandLine {
     bool tour = false;
     QString tourFolder; // where the tour's pictures go
     QString folder;     // of the tour's database; empty: a temporary one
+    QString language;   // of the texts, such as "de"; empty: the system's
 };
+
+// Takes "--language CODE" out of the arguments and gives the code: empty without the option, null
+// when the code is missing.
+QString takeLanguage(QStringList &arguments);
 
 // The arguments do not hold the program's name.
 CommandLine readCommandLine(const QStringList &arguments);

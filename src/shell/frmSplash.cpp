@@ -38,7 +38,7 @@ void frmSplash::fillLabels()
     ui->lblTitle->setText(app::title());
     ui->lblCompany->setText(app::company());
     ui->lblVersion->setText(tr("Multi-User version ") + QString::number(app::versionMajor()) +
-                            u'.' + QString::number(app::versionMinor()) + u"  Rev. " +
+                            u'.' + QString::number(app::versionMinor()) + tr("  Rev. ") +
                             QString::number(app::versionRevision()));
     ui->lblWebsite->setText(app::website());
     ui->lblWebsite->setForegroundRole(QPalette::Link);

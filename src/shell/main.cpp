@@ -3,6 +3,7 @@
 #include "common/ui/Icons.h"
 #include "common/ui/ProgramStyle.h"
 #include "shell/CommandLine.h"
+#include "shell/Language.h"
 #include "shell/Startup.h"
 #include "shell/Tour.h"
 
@@ -28,8 +29,9 @@ QStringList argumentsAsGiven(int argc, char *argv[])
     return arguments;
 }
 
-int startProgram(const QStringList &arguments)
+int startProgram(QStringList arguments)
 {
+    takeLanguage(arguments);
     Startup startup(Startup::folderFromCommandLine(arguments));
     return startup.run() ? QApplication::exec() : 0;
 }
@@ -46,6 +48,7 @@ int main(int argc, char *argv[])
         return 1;
     const QApplication application(argc, argv);
     nameTheProgram();
+    const Language language(command.language);
     ProgramStyle::install();
     installGuiDoors(nullptr);
     if (command.tour)

@@ -57,13 +57,20 @@ TEST(CommandLine, TellsFoldersFromOptions)
     EXPECT_EQ(tour.folder, "data");
     EXPECT_EQ(readCommandLine({"--tour"}).answer, CommandLine::Answer::WrongUse);
     EXPECT_EQ(readCommandLine({"--tuor", "out"}).wrong, "--tuor");
+    const CommandLine german = readCommandLine({"/data", "--language", "de_AT"});
+    EXPECT_EQ(german.answer, CommandLine::Answer::None);
+    EXPECT_EQ(german.language, "de_AT");
+    EXPECT_TRUE(readCommandLine({"--language", "en", "--tour", "out"}).tour);
+    EXPECT_EQ(readCommandLine({"--language"}).wrong, "--language");
+    EXPECT_EQ(readCommandLine({"--language", "tlh"}).wrong, "--language tlh");
 }
 
 TEST(CommandLine, HelpAndVersionNeedNoDisplay)
 {
     const Output help = runWithoutDisplay({"--help"});
     EXPECT_EQ(help.exitCode, 0);
-    EXPECT_TRUE(help.out.startsWith("Usage: norvane [FOLDER]")) << qPrintable(help.out);
+    EXPECT_TRUE(help.out.startsWith("Usage: norvane [FOLDER] [--language CODE]"))
+        << qPrintable(help.out);
     const Output version = runWithoutDisplay({"--version"});
     EXPECT_EQ(version.exitCode, 0);
     EXPECT_EQ(version.out, QString(u"Norvane " + versionText() + u'\n'));

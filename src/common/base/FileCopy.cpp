@@ -2,6 +2,7 @@
 
 #include "common/base/clsSystem.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QSaveFile>
 #include <QUuid>
@@ -19,6 +20,10 @@
 
 namespace
 {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(FileCopy)
+};
 
 using End = FileCopyOutcome::End;
 
@@ -98,9 +103,9 @@ FileCopyOutcome copyFile(const QString &source, const QString &target, const QSt
     QFile from(clsSystem::LocalPath(source));
     const QString targetPath = clsSystem::LocalPath(target);
     if (source.isEmpty() || target.isEmpty() || !QFileInfo(from.fileName()).isFile())
-        return failed(QStringLiteral("There is no such file"));
+        return failed(Words::tr("There is no such file"));
     if (isSameFile(from.fileName(), targetPath))
-        return failed(QStringLiteral("Source and target are the same file"));
+        return failed(Words::tr("Source and target are the same file"));
     if (!from.open(QIODevice::ReadOnly))
         return failed(from.errorString());
     // A name of its own there, and a short one: the target's may be as long as names can be.

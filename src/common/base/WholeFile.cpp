@@ -2,21 +2,26 @@
 
 #include "common/base/clsSystem.h"
 
+#include <QCoreApplication>
 #include <QSaveFile>
 
 namespace
 {
 
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(WholeFile)
+};
+
 void tell(const QString &path, const QString &cause)
 {
-    prompts::warn(QLatin1String("Unable to write to : ") + path + QLatin1String(". ") + cause);
+    prompts::warn(Words::tr("Unable to write to : %1. %2").arg(path, cause));
 }
 
 } // namespace
 
 bool writeWhole(const QString &path, const QByteArray &bytes)
 {
-    const QString inUse = QStringLiteral("This file may already be open by another application.");
+    const QString inUse = Words::tr("This file may already be open by another application.");
     const QString target = clsSystem::LocalPath(path);
     const bool replaces = clsSystem::FileExists(path);
     QSaveFile file(target);

@@ -7,6 +7,7 @@
 #include "common/base/FileAttributes.h"
 #include "common/base/FileCopy.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -14,6 +15,10 @@
 
 namespace
 {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(clsSystem)
+};
 
 bool isSeparator(QChar c)
 {
@@ -119,8 +124,9 @@ bool clsSystem::WriteToFile(const QString &text, const QString &path, bool showE
     QSaveFile file(LocalPath(path));
     if (path.contains(u'*') || (!file.open(QIODevice::WriteOnly) && FileExists(path))) {
         if (showError) {
-            prompts::warn(QLatin1String("Unable to write to : ") + path +
-                          QLatin1String(". This file may already be open by another application."));
+            prompts::warn(Words::tr("Unable to write to : %1. This file may already be open by "
+                                    "another application.")
+                              .arg(path));
         }
         return false;
     }
@@ -135,7 +141,7 @@ bool clsSystem::FileRead(QString &text, const QString &path)
         constexpr int FileNotFound = 53;
         constexpr int DeviceError = 57;
         if (!FileExists(path))
-            throw Failure(FileNotFound, app::title(), QStringLiteral("File not found"));
+            throw Failure(FileNotFound, app::title(), Words::tr("File not found"));
         QFile file(LocalPath(path));
         if (!file.open(QIODevice::ReadOnly))
             throw Failure(DeviceError, app::title(), file.errorString());

@@ -4,7 +4,17 @@
 #include "common/base/AppInfo.h"
 #include "common/base/Host.h"
 
+#include <QCoreApplication>
 #include <QUrl>
+
+namespace
+{
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(clsSystem)
+};
+
+} // namespace
 
 QString clsSystem::GetLocalComputerName()
 {
@@ -15,7 +25,7 @@ bool clsSystem::ShowFolder(const QString &path)
 {
     if (host().open(LocalPath(path)))
         return true;
-    prompts::warn(QLatin1String("Unable to open folder '") + path + u'\'');
+    prompts::warn(Words::tr("Unable to open folder '%1'").arg(path));
     return false;
 }
 
@@ -23,8 +33,10 @@ bool clsSystem::LaunchFile(const QString &item, const QStringList &parameters)
 {
     const bool taken = parameters.isEmpty() ? host().open(item) : host().launch(item, parameters);
     if (!taken) {
-        prompts::warn(QLatin1String("Unable to launch '") + item +
-                      QLatin1String("'! No application may be associated with this file type."));
+        prompts::warn(
+            Words::tr(
+                "Unable to launch '%1'! No application may be associated with this file type.")
+                .arg(item));
     }
     return taken;
 }

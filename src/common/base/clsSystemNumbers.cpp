@@ -6,6 +6,7 @@
 #include "common/base/Host.h"
 
 #include <QCollator>
+#include <QCoreApplication>
 #include <QLocale>
 
 #include <algorithm>
@@ -15,10 +16,14 @@
 namespace
 {
 
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(clsSystem)
+};
+
 [[noreturn]] void failWithOverflow()
 {
     constexpr int Overflow = 6;
-    throw Failure(Overflow, app::title(), QStringLiteral("Overflow"));
+    throw Failure(Overflow, app::title(), Words::tr("Overflow"));
 }
 
 QString withSeparators(const QString &digits)

@@ -16,7 +16,7 @@ constexpr qint64 kLargeFile = 8 << 20; // takes long enough that a progress wind
 
 QString allFiles()
 {
-    return QStringLiteral("All Files (*.*)|*.*");
+    return AttachmentsCtl::tr("All Files (*.*)|*.*");
 }
 
 void paintList(ListView *list, bool editable)
@@ -130,7 +130,7 @@ void AttachmentsCtl::chooseAndAttach()
 {
     QString path;
     if (gDB.MayWrite() &&
-        clsSystem::GetFilenameOpen(path, QStringLiteral("Open file to attach"), allFiles()))
+        clsSystem::GetFilenameOpen(path, AttachmentsCtl::tr("Open file to attach"), allFiles()))
         attach(path);
 }
 
@@ -237,8 +237,8 @@ void AttachmentsCtl::saveCopy()
 {
     const QString source = selectedPath();
     QString target;
-    if (!clsSystem::GetFilenameSaveAs(target, QStringLiteral("Save Attachment As..."), allFiles(),
-                                      u"Copy of " + LvGetSelectedItemText(m_ui->lv)))
+    if (!clsSystem::GetFilenameSaveAs(target, AttachmentsCtl::tr("Save Attachment As..."),
+                                      allFiles(), u"Copy of " + LvGetSelectedItemText(m_ui->lv)))
         return;
     if (clsSystem::LocalPath(target).compare(source, Qt::CaseInsensitive) == 0) {
         prompts::critical(tr("Source and Destination files are identical!"));

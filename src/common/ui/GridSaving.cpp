@@ -7,12 +7,17 @@
 #include "common/base/WholeFile.h"
 #include "common/ui/Grid.h"
 
+#include <QCoreApplication>
 #include <QLocale>
 
 #include <cmath>
 
 namespace
 {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(GridSaving)
+};
 
 constexpr qsizetype kExactDigits = 15; // of a number in a double
 
@@ -48,10 +53,9 @@ bool SaveGridTexts(const std::function<QString(int row, int column)> &text, int 
                    int lastRow, int firstCol, int lastCol)
 {
     return guarded("clsSystem_SaveGrid", false, [&] {
-        const QString file =
-            gSys.GetSaveFileName(QStringLiteral("Save As..."),
-                                 QStringLiteral("MS Excel Comma Delimited File (*.csv)|*.csv"), {},
-                                 QStringLiteral("csv"));
+        const QString file = gSys.GetSaveFileName(
+            Words::tr("Save As..."), Words::tr("MS Excel Comma Delimited File (*.csv)|*.csv"), {},
+            QStringLiteral("csv"));
         if (file.isEmpty())
             return false;
         QByteArray bytes;
@@ -67,8 +71,8 @@ bool SaveGridTexts(const std::function<QString(int row, int column)> &text, int 
         if (!writeWhole(file, bytes))
             return false;
         const QString question =
-            QLatin1String(" has been saved. Would you like to open this file now?");
-        if (prompts::ask(file + question) == prompts::Answer::Yes)
+            Words::tr("%1 has been saved. Would you like to open this file now?").arg(file);
+        if (prompts::ask(question) == prompts::Answer::Yes)
             clsSystem::LaunchFile(file);
         return true;
     });

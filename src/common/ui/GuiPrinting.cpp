@@ -6,6 +6,7 @@
 #include "common/ui/frmRptOption.h"
 #include "common/ui/GuiDialogs.h"
 
+#include <QCoreApplication>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
@@ -13,6 +14,10 @@
 
 namespace
 {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(GuiPrinting)
+};
 
 // The toolkit's own dialog, shown where the desktop has none, offers a PDF file beside the
 // printers.
@@ -62,7 +67,7 @@ std::optional<printing::Choice> guiprinting::dialog(const printing::Document &do
             QLatin1String(".pdf"));
 
     QPrintDialog dialog(printer.get(), guidialogs::windowInUse());
-    dialog.setWindowTitle(QStringLiteral("Print"));
+    dialog.setWindowTitle(Words::tr("Print"));
     dialog.setOption(QAbstractPrintDialog::PrintPageRange, false); // documents print as a whole
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;

@@ -5,9 +5,19 @@
 
 #include <QAbstractItemModel>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QListWidget>
 
 #include <algorithm>
+
+namespace
+{
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(ListBoxes)
+};
+
+} // namespace
 
 void lbAddItem(QListWidget *list, const QString &text, qint32 id)
 {
@@ -48,7 +58,7 @@ void LB2LBRemoveItems(const QListWidget *shown, QComboBox *from)
 void LBRemoveCurSelected(QListWidget *list)
 {
     if (list->currentRow() < 0)
-        prompts::warn(QStringLiteral("Please select a listbox item first!"));
+        prompts::warn(Words::tr("Please select a listbox item first!"));
     else
         delete list->takeItem(list->currentRow());
 }

@@ -5,11 +5,16 @@
 #include "common/base/Host.h"
 #include "common/base/Hourglass.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QMimeDatabase>
 
 namespace
 {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(ListViewFiles)
+};
 
 constexpr int RowsBetweenRepaints = 20;
 
@@ -18,7 +23,7 @@ QString sizeText(qint64 bytes)
 {
     const double kilobytes = static_cast<double>(bytes) / 1024;
     return (kilobytes >= 1 ? clsSystem::CommafyNoDec(kilobytes) : QStringLiteral("1")) +
-           QStringLiteral(" KB");
+           Words::tr(" KB");
 }
 
 QString modifiedText(const QFileInfo &file)

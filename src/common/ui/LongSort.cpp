@@ -3,10 +3,15 @@
 #include "common/base/AppInfo.h"
 #include "common/base/Host.h"
 
+#include <QCoreApplication>
 #include <QWidget>
 
 namespace
 {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(LongSort)
+};
 
 constexpr int LongList = 50000;      // rows; shorter ones are sorted at once
 constexpr qint64 BetweenEvents = 40; // milliseconds
@@ -26,8 +31,8 @@ bool LongSort::goOn()
         return true;
     if (!m_wait) {
         m_busy.emplace(m_list->window());
-        clsSystem::WaitDlgShow(m_wait, app::title(),
-                               QStringLiteral("Sorting the list. Please wait..."), false, true);
+        clsSystem::WaitDlgShow(m_wait, app::title(), Words::tr("Sorting the list. Please wait..."),
+                               false, true);
     }
     if (!m_time.isValid() || m_time.elapsed() >= BetweenEvents) {
         host().pumpEvents();

@@ -8,12 +8,17 @@
 #include "common/ui/MailDraft.h"
 
 #include <QApplication>
+#include <QCoreApplication>
 #include <QDir>
 #include <QStandardPaths>
 #include <QTemporaryFile>
 
 namespace
 {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(Mail)
+};
 
 constexpr int kPatience = 3000; // milliseconds in which a mail program tells that it failed
 constexpr int kDraftDays = 1;   // drafts hold what customers wrote, so they are not kept longer
@@ -124,20 +129,20 @@ void mail::EmailHandlerDlg()
 void mail::NoMAPIMsg()
 {
     gSys.ShowMsg(
-        QStringLiteral("Unable to initiate your email software! \n\n"
-                       "There is no Microsoft SIMPLE MAPI (Messaging Application Programming "
-                       "Interface) compatible email application (such Microsoft Outlook EXPRESS) "
-                       "installed on your machine.\n\n"
-                       "Please choose View, Options menu to check or change your Email options."),
+        Words::tr("Unable to initiate your email software! \n\n"
+                  "There is no Microsoft SIMPLE MAPI (Messaging Application Programming "
+                  "Interface) compatible email application (such Microsoft Outlook EXPRESS) "
+                  "installed on your machine.\n\n"
+                  "Please choose View, Options menu to check or change your Email options."),
         prompts::Kind::Critical);
 }
 
 void mail::NoOutlookMsg()
 {
     gSys.ShowMsg(
-        QStringLiteral("Unable to initiate Microsoft Outlook!\n\n"
-                       "If you intend to use Microsoft Outlook, please make sure Microsoft Outlook "
-                       "is installed on your machine and is functioning properly.\n\n"
-                       "Please choose View, Options menu to check or change your Email options."),
+        Words::tr("Unable to initiate Microsoft Outlook!\n\n"
+                  "If you intend to use Microsoft Outlook, please make sure Microsoft Outlook "
+                  "is installed on your machine and is functioning properly.\n\n"
+                  "Please choose View, Options menu to check or change your Email options."),
         prompts::Kind::Critical);
 }

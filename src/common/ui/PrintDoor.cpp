@@ -5,12 +5,17 @@
 #include "common/base/WholeFile.h"
 
 #include <QBuffer>
+#include <QCoreApplication>
 #include <QPagedPaintDevice>
 #include <QPdfWriter>
 #include <QRegularExpression>
 
 namespace
 {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(PrintDoor)
+};
 
 constexpr qsizetype kLongestName = 80;
 constexpr int kPdfResolution = 1200; // dots to the inch
@@ -64,7 +69,7 @@ QString printing::fileName(const Document &document)
 
 QString printing::askForPdfFile(const Document &document)
 {
-    return gSys.GetSaveFileName(QStringLiteral("Save As"), QStringLiteral("PDF File (*.pdf)|*.pdf"),
+    return gSys.GetSaveFileName(Words::tr("Save As"), Words::tr("PDF File (*.pdf)|*.pdf"),
                                 fileName(document) + QLatin1String(".pdf"), QStringLiteral("pdf"));
 }
 

@@ -8,12 +8,18 @@
 #include "common/ui/PrintPages.h"
 #include "common/ui/PrintProgress.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <cmath>
 #include <numeric>
 
 namespace
 {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(PrintList)
+};
 
 constexpr int kMargin = 1000;
 constexpr int kTextWidth = 80; // characters
@@ -201,7 +207,7 @@ bool ListViewPrint(const ListView &lv, QPagedPaintDevice &device, int left, int 
 void ListViewPrint_GetPrinter(const ListView &lv, const QString &title, const QString &titleKey)
 {
     if (lv.itemCount() == 0) {
-        prompts::inform(QStringLiteral("The list is empty. There is nothing to print."));
+        prompts::inform(Words::tr("The list is empty. There is nothing to print."));
         return;
     }
     const std::optional<printing::ListOptions> chosen = printing::listOptions(

@@ -4,6 +4,7 @@
 #include "common/base/clsSystem.h"
 #include "common/base/Failure.h"
 
+#include <QCoreApplication>
 #include <QFontInfo>
 #include <QPaintEngine>
 #include <QPrinter>
@@ -14,13 +15,17 @@
 namespace
 {
 
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(PrintPages)
+};
+
 constexpr qreal kTwipsPerPoint = 20;
 constexpr qreal kTwipsPerInch = 1440;
 
 [[noreturn]] void refuse()
 {
     constexpr int PrinterError = 482;
-    throw Failure(PrinterError, app::title(), QStringLiteral("Printer error"));
+    throw Failure(PrinterError, app::title(), Words::tr("Printer error"));
 }
 
 } // namespace

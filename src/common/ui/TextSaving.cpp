@@ -6,6 +6,7 @@
 #include "common/ui/RtfWriter.h"
 #include "common/ui/WordConversion.h"
 
+#include <QCoreApplication>
 #include <QOperatingSystemVersion>
 #include <QPlainTextEdit>
 
@@ -13,6 +14,10 @@
 
 namespace
 {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(TextSaving)
+};
 
 constexpr qsizetype kExtension = 3;
 
@@ -32,7 +37,7 @@ QByteArray plainText(const QString &text)
 bool mayReplace(const QString &fileName)
 {
     return !clsSystem::FileExists(fileName) ||
-           prompts::ask(fileName + QLatin1String(" already exists. Do you want to replace it?")) ==
+           prompts::ask(Words::tr("%1 already exists. Do you want to replace it?").arg(fileName)) ==
                prompts::Answer::Yes;
 }
 
@@ -46,7 +51,7 @@ bool saveDocument(const QPlainTextEdit &box, const QString &fileName)
     const QString document = convertRtfToDoc(rtf, fileName);
     if (document.isEmpty())
         return false;
-    prompts::inform(document + QLatin1String(" has been saved as MS Word document."));
+    prompts::inform(Words::tr("%1 has been saved as MS Word document.").arg(document));
     return true;
 }
 
@@ -55,9 +60,9 @@ bool saveDocument(const QPlainTextEdit &box, const QString &fileName)
 void SaveRTB_GetFileName(const QPlainTextEdit &box)
 {
     const QString name = gSys.GetSaveFileName(
-        QStringLiteral("Save As"),
-        QStringLiteral("MS Word (*.doc)|*.doc|Rich Text Format (*.rtf)|*.rtf|"
-                       "Text Document (*.txt)|*.txt|All Files (*.*)|*.*"),
+        Words::tr("Save As"),
+        Words::tr("MS Word (*.doc)|*.doc|Rich Text Format (*.rtf)|*.rtf|"
+                  "Text Document (*.txt)|*.txt|All Files (*.*)|*.*"),
         QLatin1String("Untitled ") + QString::number(gSys.NextDocNum()), QStringLiteral("rtf"));
     if (!name.isEmpty())
         SaveRTB(box, name);

@@ -3,6 +3,7 @@
 #include "common/base/clsSystem.h"
 #include "common/base/Host.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QStandardPaths>
 #include <QTemporaryDir>
@@ -10,6 +11,10 @@
 
 namespace
 {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(WordConversion)
+};
 
 constexpr int kPatience = 120'000; // milliseconds; a first start sets up a profile
 
@@ -28,8 +33,9 @@ QString wordProcessor()
 
 QString failed(const QString &docFile, const QString &rtfFile)
 {
-    prompts::warn(QLatin1String("Unable to convert to an MS Word document: ") + docFile +
-                  QLatin1String("\nThe text has been saved in ") + rtfFile);
+    prompts::warn(
+        Words::tr("Unable to convert to an MS Word document: %1\nThe text has been saved in %2")
+            .arg(docFile, rtfFile));
     return {};
 }
 
@@ -39,7 +45,7 @@ QString convertRtfToDoc(const QString &rtfFile, const QString &docFile)
 {
     const QString program = wordProcessor();
     if (program.isEmpty()) {
-        prompts::inform(QStringLiteral("MS Word must be installed to use this option!"));
+        prompts::inform(Words::tr("MS Word must be installed to use this option!"));
         return {};
     }
     // A profile of its own, or a running window of the person's would take the work and give no
@@ -49,8 +55,8 @@ QString convertRtfToDoc(const QString &rtfFile, const QString &docFile)
     const QString source = QFileInfo(clsSystem::LocalPath(rtfFile)).absoluteFilePath();
     WaitDlg wait;
     clsSystem::WaitDlgShow(wait, QStringLiteral("MS Word"),
-                           QStringLiteral("Converting to an MS Word document. Please wait..."),
-                           false, false);
+                           Words::tr("Converting to an MS Word document. Please wait..."), false,
+                           false);
     const ProgramResult result =
         host().run(program,
                    {QLatin1String("-env:UserInstallation=") +

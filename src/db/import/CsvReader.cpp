@@ -4,10 +4,16 @@
 #include "common/base/AppInfo.h"
 #include "common/base/clsSystem.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 namespace
 {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(CsvReader)
+};
 
 constexpr qint64 blockSize = 64 * 1024;
 constexpr char endOfFileMark = '\x1A';
@@ -37,9 +43,9 @@ bool CsvReader::seek(qint64 position)
 Failure CsvReader::failure() const
 {
     constexpr int DeviceError = 57;
-    return {DeviceError, app::title(),
-            QLatin1String("The file '") + m_file.fileName() + QLatin1String("' cannot be read: ") +
-                m_file.errorString()};
+    return {
+        DeviceError, app::title(),
+        Words::tr("The file '%1' cannot be read: %2").arg(m_file.fileName(), m_file.errorString())};
 }
 
 // Gets the next block when the last one is used up.

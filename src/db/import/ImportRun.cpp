@@ -7,11 +7,17 @@
 #include "db/import/CsvText.h"
 #include "db/TableUse.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <utility>
 
 namespace
 {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(ImportRun)
+};
 
 // Others wait for a group as long as for a few saves.
 constexpr qint32 rowsInGroup = 2000;
@@ -51,8 +57,8 @@ ImportResult ImportRun::ImportData_Detail(const QString &path)
     // A folder that goes away on the run fails every row that is left.
     const clsDB::TellOnce once(m_db);
     WaitDlg progress;
-    clsSystem::WaitDlgShow(progress, QStringLiteral("Import Data"),
-                           QStringLiteral("Integrating data. Please wait..."), true, false);
+    clsSystem::WaitDlgShow(progress, Words::tr("Import Data"),
+                           Words::tr("Integrating data. Please wait..."), true, false);
     m_result.ok = guarded("frmDataImport_ImportData_Detail", false, [&] {
         fault = openTables();
         return fault.isEmpty() && importRows(path, progress);
@@ -69,10 +75,10 @@ QString ImportRun::openTables()
 {
     m_customers = m_db.OpenTable(m_db.CustomerTable());
     if (m_customers <= 0)
-        return QStringLiteral("Unable to open Customer table!");
+        return Words::tr("Unable to open Customer table!");
     m_categories = m_db.OpenTable(m_db.CategoryTable());
     if (m_categories <= 0)
-        return QStringLiteral("Unable to open Category table!");
+        return Words::tr("Unable to open Category table!");
     return {};
 }
 

@@ -6,10 +6,16 @@
 #include "db/import/CsvReader.h"
 #include "db/import/CsvText.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 namespace
 {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(clsImportData)
+};
 
 constexpr int maxBadRows = 50;
 constexpr qsizetype maxLineShown = 10000; // characters; nobody reads more in a message
@@ -39,12 +45,11 @@ QString boundText(double bound)
 QString numberFault(const QString &value, const clsImportColDef &def)
 {
     if (!IsNumeric(value))
-        return QStringLiteral("must be numeric.");
+        return Words::tr("must be numeric.");
     const double number = Val(value);
     if (!def.rangeCheck || (number <= def.high && number >= def.low))
         return {};
-    return QLatin1String("must be between ") + boundText(def.high) + QLatin1String(" and ") +
-           boundText(def.low) + u'.';
+    return Words::tr("must be between %1 and %2.").arg(boundText(def.high), boundText(def.low));
 }
 
 // The end of the message about a value that is not empty; empty when it is good.
@@ -55,10 +60,10 @@ QString valueFault(const QString &value, const clsImportColDef &def)
     case NumericToo:
         return numberFault(value, def);
     case Date:
-        return QStringLiteral("must be a valid date.");
+        return Words::tr("must be a valid date.");
     case YesNo:
         if (value != QLatin1String("N") && value != QLatin1String("Y"))
-            return QStringLiteral("must be either 'Y' or 'N'.");
+            return Words::tr("must be either 'Y' or 'N'.");
         return {};
     default:
         return {};
@@ -72,21 +77,22 @@ QString valueMessage(qint32 rowNumber, const QString &value, const clsImportColD
     if (value.isEmpty()) {
         if (def.blankAllowed)
             return {};
-        return row + QLatin1String(": A value must be entered for column ") + def.name + u'.';
+        return Words::tr("%1: A value must be entered for column %2.").arg(row, def.name);
     }
     const QString fault = valueFault(value, def);
     if (fault.isEmpty())
         return {};
-    return row + QLatin1String(": The value [") + value + QLatin1String("] entered for column ") +
-           def.name + u' ' + fault;
+    return Words::tr("%1: The value [%2] entered for column %3 %4")
+        .arg(row, value, def.name, fault);
 }
 
 QString missingData(qint32 rowNumber, const QString &row)
 {
-    return clsImportData::FmtRowNum(rowNumber) +
-           QLatin1String(": Missing data. Number of entries on this row do NOT equal the number "
-                         "of columns on the first row. LINE CONTENT: ") +
-           row.left(maxLineShown).replace(csvDelimiter, u',') + clsSystem::CRLF();
+    return Words::tr("%1: Missing data. Number of entries on this row do NOT equal the number of "
+                     "columns on the first row. LINE CONTENT: %2")
+               .arg(clsImportData::FmtRowNum(rowNumber),
+                    row.left(maxLineShown).replace(csvDelimiter, u',')) +
+           clsSystem::CRLF();
 }
 
 QString headingFaults(const clsImportColDefs &columns, const QStringList &headings)
@@ -94,14 +100,15 @@ QString headingFaults(const clsImportColDefs &columns, const QStringList &headin
     QString errors;
     for (const clsImportColDef &def : columns) {
         if (def.required && !headings.contains(def.name)) {
-            errors += QLatin1String("Required column '") + def.name +
-                      QLatin1String("' is missing from the first row.") + clsSystem::CRLF(2);
+            errors +=
+                Words::tr("Required column '%1' is missing from the first row.").arg(def.name) +
+                clsSystem::CRLF(2);
         }
     }
     for (const QString &heading : headings) {
         if (findColumn(heading, columns) == nullptr) {
-            errors += QLatin1String("Unrecognized column '") + heading +
-                      QLatin1String("' found on the first row.") + clsSystem::CRLF(2);
+            errors += Words::tr("Unrecognized column '%1' found on the first row.").arg(heading) +
+                      clsSystem::CRLF(2);
         }
     }
     return errors;
@@ -117,7 +124,7 @@ bool clsImportData::ValidateCols(const QString &path, const clsImportColDefs &co
         errors.clear();
         QString row;
         if (!FileReadRowNum(path, 1, row)) {
-            errors = QLatin1String("Unable to read column headers from row 1 of file ") + path +
+            errors = Words::tr("Unable to read column headers from row 1 of file %1").arg(path) +
                      clsSystem::CRLF(2);
             return false;
         }
@@ -133,8 +140,8 @@ bool clsImportData::ValidateRows(const QString &path, const clsImportColDefs &co
                                  const QStringList &headings, QString &errors, qint32 &rowCount)
 {
     WaitDlg progress;
-    clsSystem::WaitDlgShow(progress, QStringLiteral("Import Data"),
-                           QStringLiteral("Validating Data. Please wait..."), false, true);
+    clsSystem::WaitDlgShow(progress, Words::tr("Import Data"),
+                           Words::tr("Validating Data. Please wait..."), false, true);
     const bool good = guarded("clsImportData_ValidateRows", false, [&] {
         CsvReader reader(path);
         reader.open();
@@ -146,15 +153,15 @@ bool clsImportData::ValidateRows(const QString &path, const clsImportColDefs &co
             if (rowNumber > 1) {
                 ++rowCount;
                 if (reader.lineWasCut())
-                    errors += FmtRowNum(rowNumber) + QLatin1String(": The line is too long.") +
+                    errors += Words::tr("%1: The line is too long.").arg(FmtRowNum(rowNumber)) +
                               clsSystem::CRLF();
                 if (reader.lineWasCut() ||
                     !ValidateARow(rowNumber, clsSystem::Trim(*line), columns, headings, errors))
                     ++badRows;
             }
             if (badRows > maxBadRows) {
-                errors += QLatin1String("MORE THAN 50 ERRORS ENCOUNTERED. ABORTING...") +
-                          clsSystem::CRLF(2);
+                errors +=
+                    Words::tr("MORE THAN 50 ERRORS ENCOUNTERED. ABORTING...") + clsSystem::CRLF(2);
                 break;
             }
             ++rowNumber;
@@ -204,5 +211,5 @@ bool clsImportData::IsImportRelevant(const QString &heading, const clsImportColD
 
 QString clsImportData::FmtRowNum(qint32 rowNumber)
 {
-    return QLatin1String("Row ") + QString::number(rowNumber);
+    return Words::tr("Row %1").arg(rowNumber);
 }

@@ -1,5 +1,7 @@
 #include "db/maintenance/Advice.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 namespace maintenance
@@ -11,46 +13,54 @@ using norvane::engine::ErrorKind;
 namespace
 {
 
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(Advice)
+};
+
 QString sentence(ErrorKind kind)
 {
     switch (kind) {
     case ErrorKind::NotFound:
-        return QStringLiteral("the file or a part of it is missing");
+        return Words::tr("the file or a part of it is missing");
     case ErrorKind::Locked:
-        return QStringLiteral("another station holds it");
+        return Words::tr("another station holds it");
     case ErrorKind::ReadOnly:
-        return QStringLiteral("it is read-only");
+        return Words::tr("it is read-only");
     case ErrorKind::Damaged:
-        return QStringLiteral("the file is damaged");
+        return Words::tr("the file is damaged");
     case ErrorKind::Refused:
-        return QStringLiteral("the file is of a kind that Norvane does not read");
+        return Words::tr("the file is of a kind that Norvane does not read");
     case ErrorKind::NoSpace:
-        return QStringLiteral("the disk is full");
+        return Words::tr("the disk is full");
     case ErrorKind::TooLarge:
-        return QStringLiteral("the file is too large");
+        return Words::tr("the file is too large");
     case ErrorKind::Gone:
-        return QStringLiteral("the file went away while it was read");
+        return Words::tr("the file went away while it was read");
     case ErrorKind::NoMemory:
-        return QStringLiteral("there is not enough memory");
+        return Words::tr("there is not enough memory");
     case ErrorKind::None:
     case ErrorKind::Misuse:
     case ErrorKind::Io:
         break;
     }
-    return QStringLiteral("the file cannot be read");
+    return Words::tr("the file cannot be read");
 }
 
 QString restore()
 {
-    return QStringLiteral("Restore all files of the folder together from your last backup.");
+    return Words::tr("Restore all files of the folder together from your last backup.");
 }
 
-// A sentence of its own, or one that goes on.
-QString repair(bool begins = false)
+QString repair()
 {
-    return (begins ? QStringLiteral("Close") : QStringLiteral("close")) +
-           QStringLiteral(" the database at all stations, copy the folder, and run 'norvanectl "
-                          "repair'.");
+    return Words::tr(
+        "Close the database at all stations, copy the folder, and run 'norvanectl repair'.");
+}
+
+QString nothingLost()
+{
+    return Words::tr("No data is lost: close the database at all stations, copy the folder, and "
+                     "run 'norvanectl repair'.");
 }
 
 // "row 17, NOTES: ..."
@@ -80,7 +90,7 @@ QString failureText(const Error &error)
     if (!error.detail.empty())
         text += QStringLiteral(": %1").arg(QString::fromStdString(error.detail));
     if (error.place >= 0)
-        text += QStringLiteral(" (at %1)").arg(error.place);
+        text += Words::tr(" (at %1)").arg(error.place);
     return text;
 }
 
@@ -105,55 +115,52 @@ QString adviceFor(const QString &file, ErrorKind kind)
     const bool foreignIndex = kind == ErrorKind::Refused && isIndex(file);
     switch (foreignIndex ? ErrorKind::Damaged : kind) {
     case ErrorKind::Locked:
-        return QStringLiteral("Check again when nobody is saving.");
+        return Words::tr("Check again when nobody is saving.");
     case ErrorKind::ReadOnly:
-        return QStringLiteral("Ask for the right to read and write the folder.");
+        return Words::tr("Ask for the right to read and write the folder.");
     case ErrorKind::Gone:
-        return QStringLiteral("Check again when the computer that holds the folder is up.");
+        return Words::tr("Check again when the computer that holds the folder is up.");
     case ErrorKind::Io:
-        return QStringLiteral(
-            "Look whether you may read the file and whether its disk is in order, "
-            "and check again. Nothing says that data is lost.");
+        return Words::tr("Look whether you may read the file and whether its disk is in order, "
+                         "and check again. Nothing says that data is lost.");
     case ErrorKind::Refused:
         return adviceForLayout();
     default:
         break;
     }
     if (isIndex(file))
-        return QStringLiteral("No data is lost: ") + repair() +
-               QStringLiteral(" This will rebuild the index from the rows.");
-    const QString rest = QStringLiteral(" What that cannot put right is to be restored from your "
-                                        "last backup, all files of the folder together.");
+        return nothingLost() + Words::tr(" This will rebuild the index from the rows.");
+    const QString rest = Words::tr(" What that cannot put right is to be restored from your "
+                                   "last backup, all files of the folder together.");
     if (isMemo(file))
-        return QStringLiteral("Notes and other long texts may be lost. ") + repair(true) + rest;
-    return repair(true) + rest;
+        return Words::tr("Notes and other long texts may be lost. ") + repair() + rest;
+    return repair() + rest;
 }
 
 QString adviceForMissing(const schema::TableInfo &table, const QString &file)
 {
     if (isIndex(file))
-        return QStringLiteral("No data is lost: ") + repair() +
-               QStringLiteral(" This will build the index from the rows.");
+        return nothingLost() + Words::tr(" This will build the index from the rows.");
     if (table.repairable)
-        return QStringLiteral("Opening the database in Norvane puts an empty one in its place; if "
-                              "it held data, restore it from your last backup first.");
+        return Words::tr("Opening the database in Norvane puts an empty one in its place; if "
+                         "it held data, restore it from your last backup first.");
     return restore();
 }
 
 QString adviceForLayout()
 {
-    return QStringLiteral("The table was made by another program or version. ") + restore();
+    return Words::tr("The table was made by another program or version. ") + restore();
 }
 
 QString adviceForIdentifiers()
 {
-    return QStringLiteral("Only one of the rows can be opened. Dump the table, and save the "
-                          "record that is wrong anew or delete it.");
+    return Words::tr("Only one of the rows can be opened. Dump the table, and save the "
+                     "record that is wrong anew or delete it.");
 }
 
 QString adviceForCounters()
 {
-    return QStringLiteral("Numbers that are in use are passed over. ") + repair(true);
+    return Words::tr("Numbers that are in use are passed over. ") + repair();
 }
 
 } // namespace maintenance

@@ -3,6 +3,8 @@
 #include "db/FieldText.h"
 #include "db/maintenance/Advice.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 namespace maintenance
@@ -12,6 +14,10 @@ using namespace norvane::engine;
 
 namespace
 {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(FolderCheck)
+};
 
 constexpr qint64 MostFindingsOfAFile = 8;
 constexpr qint32 FirstIdentifier = 1000;
@@ -38,7 +44,7 @@ void FolderCheck::checkFiles()
     for (const schema::TableInfo &table : schema::tables())
         for (const QString &file : table.files())
             if (m_files.pathOf(file).isEmpty())
-                add(file, QStringLiteral("the file is missing"), adviceForMissing(table, file));
+                add(file, Words::tr("the file is missing"), adviceForMissing(table, file));
 }
 
 // Read along, so that nothing is put right before it is told. A save that was left unfinished has
@@ -95,8 +101,8 @@ void FolderCheck::explain(const schema::TableInfo &table, const std::vector<std:
         const qint64 more = found.value(file) - MostFindingsOfAFile;
         if (more < 1)
             continue;
-        add(file, QStringLiteral("%1 more findings like these").arg(more),
-            QStringLiteral("The advice above holds for them too."));
+        add(file, Words::tr("%1 more findings like these").arg(more),
+            Words::tr("The advice above holds for them too."));
         m_findings.last().count = more;
     }
 }
@@ -106,13 +112,12 @@ void FolderCheck::checkFields(const schema::TableInfo &table, Handle handle)
     for (const FieldDef &field : table.def.fields)
         if (d4field(handle, field.name) < 1)
             add(table.dataFile(),
-                QStringLiteral("the field %1 is missing")
-                    .arg(QString::fromLatin1(field.name.c_str())),
+                Words::tr("the field %1 is missing").arg(QString::fromLatin1(field.name.c_str())),
                 adviceForLayout());
     for (const TagDef &tag : table.def.tags)
         if (d4tag(handle, tag.name) < 1)
             add(table.indexFile(),
-                QStringLiteral("the tag %1 is missing").arg(QString::fromLatin1(tag.name.c_str())),
+                Words::tr("the tag %1 is missing").arg(QString::fromLatin1(tag.name.c_str())),
                 adviceFor(table.indexFile(), ErrorKind::Damaged));
 }
 
@@ -145,9 +150,8 @@ void FolderCheck::checkIdentifiers(const schema::TableInfo &table, const RowFact
             wrong << it.key();
     std::sort(wrong.begin(), wrong.end());
     for (const qint32 id : wrong.mid(0, MostFindingsOfAFile)) {
-        const QString text = id < 1
-                                 ? QStringLiteral("%1 rows have the rowid %2, which no record has")
-                                 : QStringLiteral("%1 rows share the rowid %2");
+        const QString text = id < 1 ? Words::tr("%1 rows have the rowid %2, which no record has")
+                                    : Words::tr("%1 rows share the rowid %2");
         add(table.dataFile(), text.arg(facts.live.value(id)).arg(id), adviceForIdentifiers());
     }
 }
@@ -175,19 +179,19 @@ void FolderCheck::checkCounter(const schema::TableInfo &table, const QList<qint3
 {
     const QString file = schema::table(schema::Table::LastID).dataFile();
     if (counters.size() > 1)
-        add(file, QStringLiteral("%1 counters for %2").arg(counters.size()).arg(table.dataFile()),
+        add(file, Words::tr("%1 counters for %2").arg(counters.size()).arg(table.dataFile()),
             adviceForCounters());
     const RowFacts facts = m_facts.value(static_cast<int>(table.table));
     const qint32 next = counters.isEmpty() ? FirstIdentifier : counters.first();
     if (next < FirstIdentifier)
         add(file,
-            QStringLiteral("the next identifier for %1 is %2, which is none")
+            Words::tr("the next identifier for %1 is %2, which is none")
                 .arg(table.dataFile())
                 .arg(next),
             adviceForCounters());
     else if (facts.highest >= next)
         add(file,
-            QStringLiteral("the next identifier for %1 is %2, but %3 is in use already")
+            Words::tr("the next identifier for %1 is %2, but %3 is in use already")
                 .arg(table.dataFile())
                 .arg(next)
                 .arg(facts.highest),
@@ -234,10 +238,10 @@ void FolderCheck::checkReference(schema::Table from, const char *field, schema::
         d4close(handle);
     if (lost > 0)
         add(table.dataFile(),
-            QStringLiteral("%1 rows name a record of %2 in the field %3 that is not there")
+            Words::tr("%1 rows name a record of %2 in the field %3 that is not there")
                 .arg(lost)
                 .arg(schema::table(to).dataFile(), QLatin1String(field)),
-            QStringLiteral("The screens show nothing in that place."), false);
+            Words::tr("The screens show nothing in that place."), false);
 }
 
 } // namespace maintenance

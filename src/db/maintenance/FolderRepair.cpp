@@ -4,6 +4,7 @@
 #include "db/FieldText.h"
 #include "db/maintenance/Advice.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QHash>
 
@@ -17,6 +18,10 @@ namespace maintenance
 
 namespace
 {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(FolderRepair)
+};
 
 constexpr qint32 FirstIdentifier = 1000;
 constexpr int MostLinesOfAFile = 8;
@@ -62,8 +67,8 @@ void FolderRepair::restoreFiles(const schema::TableInfo &table)
             clsDB::copyTemplate(table.templateFiles().at(i), m_files.folder(), file) &&
             clsDB::keepNames(m_files.folder());
         add(file,
-            made ? QStringLiteral("the file was missing and is there again, empty")
-                 : QStringLiteral("the file is missing"),
+            made ? Words::tr("the file was missing and is there again, empty")
+                 : Words::tr("the file is missing"),
             made);
     }
 }
@@ -89,12 +94,11 @@ void FolderRepair::repairTable(const schema::TableInfo &table)
     }
     for (auto it = left.cbegin(); it != left.cend(); ++it)
         if (it.value() > MostLinesOfAFile)
-            add(it.key(),
-                QStringLiteral("%1 more lines like these").arg(it.value() - MostLinesOfAFile),
+            add(it.key(), Words::tr("%1 more lines like these").arg(it.value() - MostLinesOfAFile),
                 false);
     if (code == d4locked)
-        add(table.dataFile(),
-            QStringLiteral("it is open at another station, so it was left as it is"), false);
+        add(table.dataFile(), Words::tr("it is open at another station, so it was left as it is"),
+            false);
     else if (code != r4success && left.isEmpty()) {
         const Error &error = lastError(m_files.session());
         const QString named = fileName(error.file);
@@ -146,7 +150,7 @@ void FolderRepair::repairCounter(const schema::TableInfo &table, Handle counters
         return;
     const qint32 highest = highestIdentifier(table);
     if (highest == std::numeric_limits<qint32>::max()) {
-        add(table.dataFile(), QStringLiteral("a row has the highest rowid there can be"), false);
+        add(table.dataFile(), Words::tr("a row has the highest rowid there can be"), false);
         return;
     }
     QList<std::uint32_t> found;
@@ -174,9 +178,7 @@ void FolderRepair::repairCounter(const schema::TableInfo &table, Handle counters
         d4unlock(counters);
         if (i == 0 || !stored)
             add(file,
-                QStringLiteral("the next identifier for %1 is %2 now")
-                    .arg(table.dataFile())
-                    .arg(most),
+                Words::tr("the next identifier for %1 is %2 now").arg(table.dataFile()).arg(most),
                 stored);
     }
 }

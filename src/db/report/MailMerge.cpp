@@ -8,6 +8,7 @@
 #include "db/FieldText.h"
 #include "db/TableUse.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -15,6 +16,10 @@ using namespace norvane::engine;
 
 namespace
 {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(MailMerge)
+};
 
 constexpr int NotWritten = 75;
 const QString ProductsField = QStringLiteral("prodserv");
@@ -32,7 +37,7 @@ public:
     {
         const QString path = m_folder.filePath(QStringLiteral("merge.dbf"));
         if (!m_folder.isValid() || !clsSystem::FileCopyFn(gDB.MailMergeTable(), path))
-            fail(QStringLiteral("The template of the mail merge file, '%1', could not be copied.")
+            fail(Words::tr("The template of the mail merge file, '%1', could not be copied.")
                      .arg(gDB.MailMergeTable()));
         QFile(path).setPermissions(QFile::ReadOwner | QFile::WriteOwner);
         code4accessMode(m_session, 1); // which is quicker

@@ -9,11 +9,17 @@
 #include "db/search/ShownNames.h"
 #include "db/TableUse.h"
 
+#include <QCoreApplication>
+
 using norvane::engine::d4deleted;
 using norvane::engine::f4long;
 
 namespace
 {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(ProductReportRun)
+};
 
 bool contains(const QString &text, const QString &wanted)
 {
@@ -27,11 +33,11 @@ std::vector<ReportTable::Column> ProductReportRun::columns()
     const QString text = QStringLiteral("S");
     const QString number = QStringLiteral("I");
     std::vector<ReportTable::Column> columns{
-        {QStringLiteral("Row"), number, ReportTable::RowNumberColumn},
-        {QStringLiteral("Product/Service"), text},
-        {QStringLiteral("Customer"), text},
-        {QStringLiteral("Cust Id"), number},
-        {QStringLiteral("Is Active?"), text},
+        {Words::tr("Row"), number, ReportTable::RowNumberColumn},
+        {Words::tr("Product/Service"), text},
+        {Words::tr("Customer"), text},
+        {Words::tr("Cust Id"), number},
+        {Words::tr("Is Active?"), text},
     };
     for (const char *field : {"dateinit", "dateterm", "custom1", "custom2", "contno", "trackno",
                               "conttype", "contdur", "shortdesc"}) {
@@ -84,7 +90,7 @@ std::optional<qint32> ProductReportRun::run(ReportTable &table, const ReportRun:
                 table.rows.push_back(
                     {f4long(rowid),
                      {QString(), categories.of(psid), customers.of(custid), QString::number(custid),
-                      active ? QStringLiteral("Yes") : QStringLiteral("NO"),
+                      active ? Words::tr("Yes") : Words::tr("NO"),
                       clsSystem::DBDateToDislayDate(text(begins)), end, custom1, custom2,
                       text(number), text(tracking), categories.of(f4long(type)),
                       categories.of(f4long(duration)), text(description)}});

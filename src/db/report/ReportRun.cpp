@@ -9,6 +9,7 @@
 #include "db/search/ShownNames.h"
 #include "db/TableUse.h"
 
+#include <QCoreApplication>
 #include <QHash>
 
 #include <algorithm>
@@ -18,6 +19,10 @@ using norvane::engine::f4long;
 
 namespace
 {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(ReportRun)
+};
 
 std::optional<qint32> criterionValue(const clsRepFilter &filter)
 {
@@ -142,7 +147,7 @@ bool ReportRun::Cells::addSource(const clsRepDispCol &column, const QString &mai
 {
     const QString table = column.m_sTablename.toLower();
     if (table != fileOf(schema::Table::Customer) && table != fileOf(schema::Table::Issues)) {
-        prompts::critical(QStringLiteral("Invalid table name found in the report column table!"));
+        prompts::critical(Words::tr("Invalid table name found in the report column table!"));
         return false;
     }
     Source source{column.m_sDataType.isEmpty() ? QChar() : column.m_sDataType.front()};
@@ -210,8 +215,7 @@ std::vector<ReportTable::Column> ReportRun::columns(const clsRepDefParser &defin
 {
     std::vector<ReportTable::Column> columns;
     if (definition.m_bShowRowNum)
-        columns.push_back(
-            {QStringLiteral("Row"), QStringLiteral("I"), ReportTable::RowNumberColumn});
+        columns.push_back({Words::tr("Row"), QStringLiteral("I"), ReportTable::RowNumberColumn});
     for (const clsRepDispCol &column : definition.m_RptCols)
         columns.push_back({column.m_sName, column.m_sDataType, column.m_nColID});
     return columns;
@@ -225,7 +229,7 @@ std::optional<qint32> ReportRun::run(ReportTable &table, const GoOn &goOn)
         if (!tables.allOpen())
             return {};
         if (m_type != u"C" && m_type != u"I") {
-            prompts::critical(QStringLiteral("Invalid report type!"));
+            prompts::critical(Words::tr("Invalid report type!"));
             return {};
         }
         return walk(tables, table, goOn);
