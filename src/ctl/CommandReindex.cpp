@@ -11,19 +11,19 @@ namespace ctl
 namespace
 {
 
-bool reindex(const clsDB &db, const clsDB::FileTriple &files, Console &console)
+bool reindex(const clsDB &db, const clsDBFile &files, Console &console)
 {
     using maintenance::ReindexOutcome;
-    const ReindexOutcome outcome = maintenance::reindexTable(db, files);
-    if (outcome == ReindexOutcome::Done) {
+    const maintenance::ReindexResult result = maintenance::reindexTable(db, files);
+    if (result.outcome == ReindexOutcome::Done) {
         console.out << QStringLiteral("%1 has been re-indexed.\n").arg(shownPath(files.table));
         return true;
     }
-    console.err << QStringLiteral("Unable to index file: %1%2\n")
-                       .arg(shownPath(files.table),
-                            outcome == ReindexOutcome::InUse
-                                ? QStringLiteral(" (it is open at another station)")
-                                : QString());
+    console.err << QStringLiteral("Unable to index file: %1 (%2)\n")
+                       .arg(shownPath(files.table), result.reason);
+    if (!result.kept.isEmpty())
+        console.err
+            << QStringLiteral("The index as it was is kept in '%1'.\n").arg(shownPath(result.kept));
     return false;
 }
 
@@ -43,7 +43,7 @@ int run(const Arguments &arguments, Console &console)
     if (!databaseIsThere(dir, console) || !logInForMaintenance(db, dir, arguments, console))
         return Problem;
     bool good = true;
-    const QList<clsDB::FileTriple> all = db.DataFilePaths();
+    const QList<clsDBFile> all = db.DataFilePaths();
     for (const schema::TableInfo &table : schema::tables())
         if (only == nullptr || only == &table)
             good = reindex(db, all.at(static_cast<int>(table.table)), console) && good;

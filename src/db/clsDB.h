@@ -3,9 +3,11 @@
 //
 // Sections follow the source files: clsDBLifecycle.cpp, clsDBFiles.cpp, clsDBAttachments.cpp,
 // clsDBTables.cpp, clsDBReadOnly.cpp, clsDBRecords.cpp, clsDBRows.cpp, clsDBIds.cpp,
-// clsDBLogin.cpp, clsDBEditMarks.cpp, clsDBLookups.cpp, clsDBCustomers.cpp, clsDBReports.cpp.
+// clsDBLogin.cpp, clsDBEditMarks.cpp, clsDBLookups.cpp, clsDBCustomers.cpp, clsDBReports.cpp,
+// clsDBBulk.cpp.
 #pragma once
 
+#include "db/clsDBFile.h"
 #include "db/engine/engine.h"
 #include "db/EngineFailures.h"
 #include "db/ListSink.h"
@@ -81,10 +83,7 @@ public:
     static bool copyTemplate(const QString &templateName, const QString &dir, const QString &name);
     // Puts the names of new files there on the medium too.
     static bool keepNames(const QString &dir);
-    struct FileTriple {
-        QString table, index, indexSource;
-    };
-    QList<FileTriple> DataFilePaths() const;
+    QList<clsDBFile> DataFilePaths() const; // of all tables, in their order in the schema
 
     // ---- attachments (clsDBAttachments.cpp). Each record's lie in a folder of its own; `kind` is
     // "_ps" for a subscription, "_i" for an issue.
@@ -286,6 +285,11 @@ public:
     qint32 RptFilterGetCatType(qint32 nColID); // the lookup list of a filter column; 0
     // A new report like that one, called "Copy of" it; its rowid, below 1 when there is none.
     qint32 CopyReport(qint32 nRptID);
+
+    // ---- volume trials (clsDBBulk.cpp)
+    // Adds a million made-up issues, numbered from 1 whatever is there, in sole use of the table.
+    // Shows how far it is; what was added before Cancel or a failure stays.
+    void AddBulkIssues();
 
 private:
     struct Write;

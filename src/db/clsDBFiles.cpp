@@ -103,9 +103,9 @@ QString clsDB::DBMSFiles() const
         .arg(app::title(), QString::number(files.size()), files.join(u'\n'), AttachDir());
 }
 
-QList<clsDB::FileTriple> clsDB::DataFilePaths() const
+QList<clsDBFile> clsDB::DataFilePaths() const
 {
-    QList<FileTriple> all;
+    QList<clsDBFile> all;
     for (const schema::TableInfo &table : schema::tables()) {
         all.append({MakePath(m_sDBPath, table.dataFile()), MakePath(m_sDBPath, table.indexFile()),
                     MakePath(app::programFolder(), table.templateFiles().at(1))});

@@ -217,11 +217,11 @@ TEST_F(Lifecycle, AnAttachmentsFolderThatCannotBeMadeIsOnlyAWarning)
 TEST_F(Lifecycle, MaintenanceIsGivenEveryTableWithItsIndexSource)
 {
     ASSERT_TRUE(gDB.OpenDB(db.path()));
-    const QList<clsDB::FileTriple> all = gDB.DataFilePaths();
+    const QList<clsDBFile> all = gDB.DataFilePaths();
     ASSERT_EQ(10, all.size());
     EXPECT_EQ(db.file(u"nvncust_ps.cdx"_s), all[2].index);
     EXPECT_EQ(clsDB::MakePath(app::programFolder(), u"nvncust_ps.cd_"_s), all[2].indexSource);
-    for (const clsDB::FileTriple &files : all)
+    for (const clsDBFile &files : all)
         EXPECT_TRUE(QFile::exists(files.indexSource)) << qPrintable(files.indexSource);
     EXPECT_TRUE(QFile::exists(gDB.MailMergeTable()));
     EXPECT_GT(gDB.GetRecCountFast(gDB.ReportColumnsTable(), u"order"_s), 40);

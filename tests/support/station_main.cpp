@@ -5,13 +5,15 @@
 //   lockrow TABLE ROWID             lockcounter TABLE        unlock
 //   save ROWID FIELD VALUE          delete TABLE ROWID       read TABLE ROWID FIELD
 //   saverow RECTYPE TABLE ROWID FIELD VALUE
-//   nextid TABLE [COUNT]            quit
+//   nextid TABLE [COUNT]            purge FIRSTISSUE LASTISSUE
+//   quit
 // TABLE is a data file's name, ROWID of save is a customer's.
 #include "common/base/clsSystem.h"
 #include "common/base/Host.h"
 #include "common/base/Prompts.h"
 #include "db/clsDB.h"
 #include "db/FieldText.h"
+#include "db/IssuePurge.h"
 #include "db/TableUse.h"
 
 #include <QCoreApplication>
@@ -41,6 +43,7 @@ private:
     QString save(const QString &recType, const QString &tableFile, const Words &words);
     QString read(const Words &words);
     QString nextIds(const Words &words);
+    QString purge(const Words &words);
     QString done(bool ok, const QString &value = {});
     QString path(const QString &table) const { return clsDB::MakePath(m_db.DBPath(), table); }
 
@@ -98,6 +101,8 @@ QString Workstation::run(const Words &words)
         return read(words);
     if (command == u"nextid")
         return nextIds(words);
+    if (command == u"purge")
+        return purge(words);
     return QStringLiteral("failed: no such command");
 }
 
@@ -163,6 +168,15 @@ QString Workstation::nextIds(const Words &words)
         ids.append(QString::number(id));
     }
     return done(true, ids.join(u','));
+}
+
+QString Workstation::purge(const Words &words)
+{
+    QList<qint32> ids;
+    for (qint32 id = words.at(1).toInt(); id <= words.at(2).toInt(); ++id)
+        ids.append(id);
+    const PurgeResult result = IssuePurge(m_db).DeleteIssues(ids, [](qint32, qint32) {});
+    return done(result.remaining == 0, QString::number(result.deleted));
 }
 
 } // namespace

@@ -26,11 +26,19 @@ constexpr qint32 FirstIdentifier = 1000;
 
 const QList<Finding> &FolderCheck::run()
 {
-    checkFiles();
+    for (const schema::TableInfo &table : schema::tables())
+        checkFiles(table);
     for (const schema::TableInfo &table : schema::tables())
         checkTable(table);
     checkCounters();
     checkReferences();
+    return m_findings;
+}
+
+const QList<Finding> &FolderCheck::run(const schema::TableInfo &table)
+{
+    checkFiles(table);
+    checkTable(table);
     return m_findings;
 }
 
@@ -39,12 +47,11 @@ void FolderCheck::add(const QString &file, const QString &text, const QString &a
     m_findings.append({file, text, advice, serious});
 }
 
-void FolderCheck::checkFiles()
+void FolderCheck::checkFiles(const schema::TableInfo &table)
 {
-    for (const schema::TableInfo &table : schema::tables())
-        for (const QString &file : table.files())
-            if (m_files.pathOf(file).isEmpty())
-                add(file, Words::tr("the file is missing"), adviceForMissing(table, file));
+    for (const QString &file : table.files())
+        if (m_files.pathOf(file).isEmpty())
+            add(file, Words::tr("the file is missing"), adviceForMissing(table, file));
 }
 
 // Read along, so that nothing is put right before it is told. A save that was left unfinished has

@@ -31,6 +31,8 @@ public:
     bool hasDatabase() const { return m_files.hasDatabase(); }
     // Changes nothing; only a save that a station left unfinished is finished first.
     const QList<Finding> &run();
+    // The files of one table alone, without what binds it to the others.
+    const QList<Finding> &run(const schema::TableInfo &table);
 
 private:
     using Handle = norvane::engine::Handle;
@@ -42,7 +44,7 @@ private:
         QHash<qint32, int> live;
     };
 
-    void checkFiles();
+    void checkFiles(const schema::TableInfo &table);
     void checkTable(const schema::TableInfo &table);
     void explain(const schema::TableInfo &table, const std::vector<std::string> &lines);
     void checkFields(const schema::TableInfo &table, Handle handle);

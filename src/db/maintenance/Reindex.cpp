@@ -1,8 +1,11 @@
 #include "db/maintenance/Reindex.h"
 
 #include "common/base/clsSystem.h"
+#include "db/maintenance/Advice.h"
+#include "db/SoleUse.h"
 #include "db/TableUse.h"
 
+#include <QDir>
 #include <QFile>
 
 using namespace norvane::engine;
@@ -13,18 +16,6 @@ namespace maintenance
 namespace
 {
 
-class SoleUse
-{
-public:
-    explicit SoleUse(Handle session) : m_session(session) { code4accessMode(m_session, 1); }
-    ~SoleUse() { code4accessMode(m_session, 0); }
-    SoleUse(const SoleUse &) = delete;
-    SoleUse &operator=(const SoleUse &) = delete;
-
-private:
-    Handle m_session;
-};
-
 // A name that is not taken yet: the path with a number behind.
 QString asidePath(const QString &path)
 {
@@ -34,43 +25,61 @@ QString asidePath(const QString &path)
     return path % u'.' % QString::number(number);
 }
 
-// A copy and no move: at no moment an empty or missing index stands under the live name.
-bool keepAside(const QString &index)
+Code rebuild(Handle session, const std::string &path)
 {
-    return !QFile::exists(index) || clsSystem::FileCopyFn(index, asidePath(index));
+    const SoleUse alone(session);
+    const Handle table = d4open(session, path);
+    if (table > 0) {
+        const Code code = d4reindex(table);
+        return d4close(table) == r4success ? code : r4failure;
+    }
+    if (lastError(session).kind == ErrorKind::Locked)
+        return d4locked;
+    // Most likely an index that cannot even be opened.
+    std::vector<RepairLine> lines;
+    return d4repair(session, path, lines);
 }
 
 } // namespace
 
-ReindexOutcome reindexTable(const clsDB &db, const clsDB::FileTriple &files)
+ReindexResult reindexTable(const clsDB &db, const clsDBFile &files)
 {
+    ReindexResult result;
     // The rows give the keys and the tags are known here, but a program folder without its
     // templates is not to be trusted with anything.
-    if (!QFile::exists(files.indexSource))
-        return ReindexOutcome::Failed;
-    const Handle session = db.CBEngine();
-    const SoleUse alone(session);
-    const std::string path = clsSystem::LocalPath(files.table).toStdString();
-    const auto failure = [session](Code code) {
-        const bool held = code == d4locked || lastError(session).kind == ErrorKind::Locked;
-        code4errorCode(session, 0);
-        return held ? ReindexOutcome::InUse : ReindexOutcome::Failed;
-    };
-    code4errorCode(session, 0);
-    const Handle table = d4open(session, path);
-    if (table < 1 && lastError(session).kind == ErrorKind::Locked)
-        return failure(d4locked);
-    if (table < 1) {
-        // Most likely an index that cannot even be opened.
-        std::vector<RepairLine> lines;
-        code4accessMode(session, 0);
-        const Code code = d4repair(session, path, lines);
-        return code == r4success ? ReindexOutcome::Done : failure(code);
+    if (!QFile::exists(files.indexSource)) {
+        result.reason = QStringLiteral("the file '%1' is missing; please re-install the program")
+                            .arg(QDir::toNativeSeparators(files.indexSource));
+        return result;
     }
-    const bool kept = keepAside(clsSystem::LocalPath(files.index));
-    const Code code = kept ? d4reindex(table) : r4failure;
-    d4close(table);
-    return code == r4success ? ReindexOutcome::Done : failure(code);
+    // A copy and no move: at no moment an empty or missing index stands under the live name. It is
+    // made before the table is opened, since the opening already mends what it finds damaged.
+    const QString index = clsSystem::LocalPath(files.index);
+    const QString aside = QFile::exists(index) ? asidePath(index) : QString();
+    if (!aside.isEmpty() && !clsSystem::FileCopyFn(index, aside)) {
+        clsSystem::DeleteFile(aside);
+        result.reason = QStringLiteral("the index could not be copied to '%1'; the folder may be "
+                                       "read-only or the disk full")
+                            .arg(QDir::toNativeSeparators(aside));
+        return result;
+    }
+    const Handle session = db.CBEngine();
+    code4errorCode(session, 0);
+    const Code code = rebuild(session, clsSystem::LocalPath(files.table).toStdString());
+    const Error failure = lastError(session);
+    code4errorCode(session, 0);
+    result.kept = aside;
+    if (code == r4success) {
+        result.outcome = ReindexOutcome::Done;
+    } else if (code == d4locked || failure.kind == ErrorKind::Locked) {
+        result.outcome = ReindexOutcome::InUse;
+        result.reason = QStringLiteral("it is open at another station");
+        clsSystem::DeleteFile(aside);
+        result.kept.clear();
+    } else {
+        result.reason = failureText(failure);
+    }
+    return result;
 }
 
 } // namespace maintenance

@@ -59,6 +59,13 @@ bool IssueSearch::assignedTo(qint32 user, std::optional<qint32> status, const Fo
     return byTag("ASSIGNEDTO", user, look, goOn);
 }
 
+bool IssueSearch::ofStatus(qint32 status, const Found &found, const GoOn &goOn)
+{
+    m_unreadable = 0;
+    return byTag(
+        "STATUS", status, [&] { found(hit()); }, goOn);
+}
+
 // Rows lie side by side there and are read many at a time, which no tag can do for all of them.
 bool IssueSearch::inFileOrder(const std::function<void()> &look, const GoOn &goOn) const
 {

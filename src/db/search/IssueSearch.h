@@ -49,6 +49,7 @@ public:
     // The issues assigned to a user (-1: to nobody), of one status or of all.
     bool assignedTo(qint32 user, std::optional<qint32> status, const Found &found,
                     const GoOn &goOn);
+    bool ofStatus(qint32 status, const Found &found, const GoOn &goOn);
 
     // Rows of the last search with a text that was wanted and could not be read.
     qint32 unreadable() const { return m_unreadable; }

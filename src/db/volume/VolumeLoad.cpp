@@ -4,7 +4,9 @@
 #include "common/base/Failure.h"
 #include "db/FieldText.h"
 #include "db/LookupTypes.h"
+#include "db/SoleUse.h"
 #include "db/TableUse.h"
+#include "db/volume/RowAdder.h"
 #include "db/volume/VolumeTexts.h"
 
 #include <string>
@@ -27,61 +29,11 @@ struct Entry {
 };
 using Entries = std::vector<Entry>;
 
-// No other station has the tables opened from now on, and rows need no locks.
-class SoleUse
-{
-public:
-    explicit SoleUse(Handle session) : m_session(session)
-    {
-        code4accessMode(session, 1);
-        code4lockEnforce(session, 0);
-    }
-    ~SoleUse()
-    {
-        code4accessMode(m_session, 0);
-        code4lockEnforce(m_session, 1);
-    }
-    SoleUse(const SoleUse &) = delete;
-    SoleUse &operator=(const SoleUse &) = delete;
-
-private:
-    Handle m_session;
-};
-
 std::string bytesOf(Handle field)
 {
     const std::string_view text(f4ptr(field), f4len_v(field));
     return std::string(text.substr(0, text.find_last_not_of(' ') + 1));
 }
-
-class Adder
-{
-public:
-    Adder(clsDB &db, schema::Table which) : m_rows(db, db.TablePath(which)) {}
-    explicit operator bool() const { return bool(m_rows); }
-
-    void begin(qint32 rowid)
-    {
-        d4appendStartVB(m_rows.handle(), 0);
-        d4blank(m_rows.handle());
-        number("rowid", rowid);
-    }
-    void number(const char *field, qint32 value) const { f4assignLong(of(field), value); }
-    void text(const char *field, std::string_view value) const
-    {
-        f4assignNVB(of(field), value, static_cast<std::uint32_t>(value.size()));
-    }
-    void memo(const char *field, std::string_view value) const
-    {
-        if (!value.empty())
-            f4memoAssignN(of(field), value, static_cast<std::uint32_t>(value.size()));
-    }
-    bool store() { return storeNewRow(m_rows.handle()); }
-
-private:
-    Handle of(const char *field) const { return d4field(m_rows.handle(), field); }
-    TableUse m_rows;
-};
 
 Entries entriesOf(clsDB &db, qint32 type)
 {
@@ -142,8 +94,8 @@ qint32 idOf(Dice &dice, const Entries &entries)
 bool addCustomers(clsDB &db, qint32 first, qint32 count, const std::function<bool()> &goOn)
 {
     const Entries categories = entriesOf(db, lookup_type::CustomerCategories);
-    const SoleUse alone(db.CBEngine());
-    Adder rows(db, schema::Table::Customer);
+    const SoleUse alone(db.CBEngine(), SoleUse::Locks::NotNeeded);
+    RowAdder rows(db, schema::Table::Customer);
     if (!rows)
         return false;
     for (qint32 number = 0; number < count; ++number) {
@@ -180,7 +132,7 @@ struct IssueLists {
     qint32 firstCustomer = 0, customers = 0;
 };
 
-void addIssue(Adder &rows, const IssueLists &lists, qint32 rowid, qint32 number)
+void addIssue(RowAdder &rows, const IssueLists &lists, qint32 rowid, qint32 number)
 {
     Dice dice(static_cast<std::uint64_t>(number) * 3 + 1);
     const Entry &product = dice.oneOf(lists.products);
@@ -211,8 +163,8 @@ void addIssue(Adder &rows, const IssueLists &lists, qint32 rowid, qint32 number)
 bool addIssues(clsDB &db, const IssueLists &lists, qint32 first, qint32 count,
                const std::function<bool()> &goOn)
 {
-    const SoleUse alone(db.CBEngine());
-    Adder rows(db, schema::Table::Issues);
+    const SoleUse alone(db.CBEngine(), SoleUse::Locks::NotNeeded);
+    RowAdder rows(db, schema::Table::Issues);
     if (!rows)
         return false;
     for (qint32 number = 0; number < count; ++number) {
