@@ -53,8 +53,10 @@ private:
     void showReports(); // TourReports.cpp
     void seeSecondStation();
     void extendList();
-    void importSpreadsheet(); // these four: TourOffice.cpp
+    void importSpreadsheet(); // these six: TourOffice.cpp
     void addUser();
+    void purgeIssues();
+    void rebuildIndex();
     void readHelp();
     void makeReport(); // TourReports.cpp
     void arrangeWindows();

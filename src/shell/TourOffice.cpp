@@ -1,16 +1,20 @@
-// The steps of the tour that look after the database: lookup lists, import, users, and the way to
-// help.
+// The steps of the tour that look after the database: lookup lists, import, users, purge,
+// maintenance, and the way to help.
+#include "admin/frmPurgeIssues.h"
 #include "common/base/AppInfo.h"
+#include "common/ui/Controls.h"
 #include "common/ui/ListView.h"
 #include "db/clsDB.h"
 #include "db/LookupTypes.h"
 #include "shell/TourHands.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QDialog>
 #include <QDir>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
 
@@ -21,6 +25,7 @@ using hands::typeInto;
 
 const QString newCategory = QStringLiteral("Orchards & Farms");
 const QString colleague = QStringLiteral("maria");
+constexpr qint32 closedStatus = 401; // as new databases have it
 
 } // namespace
 
@@ -87,6 +92,68 @@ void Tour::addUser()
     pressAndAnswer(QStringLiteral("ADUSERMAN"));
     need(gDB.GetUserPassword(colleague) == colleague,
          QStringLiteral("the new user's first password is not the login name"));
+}
+
+// Three closed issues of last year, made for this: the others are still needed.
+void Tour::purgeIssues()
+{
+    const qint32 before = gDB.GetRecCount(gDB.IssuesTable(), QStringLiteral("rowid"));
+    const schema::TableInfo &issues = schema::table(schema::Table::Issues);
+    for (const char *what : {"Paper jams in the old copier", "Move to the new office",
+                             "Training for two colleagues"}) {
+        RecColl issue(gDB.IssuesTable(), issues.dataFile(), -1, QStringLiteral("_issue"));
+        for (const schema::RecordField &field :
+             schema::recordType(QStringLiteral("_issue"))->writes)
+            issue.add(QLatin1String(field.name), QString());
+        issue.setExisting(QStringLiteral("custid"), m_customer);
+        issue.setExisting(QStringLiteral("status"), closedStatus);
+        issue.setExisting(QStringLiteral("shortdesc"), QLatin1String(what));
+        issue.setExisting(QStringLiteral("submitdt"), QStringLiteral("20010315"));
+        need(gDB.SaveRecord(issue), QStringLiteral("an old issue is not stored"));
+    }
+    press(QStringLiteral("ADIPURGE"));
+    auto *wizard = newestForm<frmPurgeIssues>();
+    auto *next = control<QPushButton>(wizard, "cmdNext");
+    shoot(QStringLiteral("purge-backup"));
+    next->click();
+    typeInto(control<QLineEdit>(wizard, "txtDateSubmit"), QStringLiteral("12/31/2001"));
+    cboSelectAtID(control<QComboBox>(wizard, "cboStatus"), closedStatus);
+    shoot(QStringLiteral("purge-criteria"));
+    next->click();
+    shoot(QStringLiteral("purge-preview"));
+    m_visitor->expect(QStringLiteral("QMessageBox"), [this](QWidget *question) {
+        shoot(QStringLiteral("purge-question"));
+        static_cast<QMessageBox *>(question)->button(QMessageBox::Yes)->click();
+    });
+    m_visitor->expect(QStringLiteral("QMessageBox"), [this](QWidget *told) {
+        shoot(QStringLiteral("purge-done"));
+        static_cast<QDialog *>(told)->accept();
+    });
+    next->click();
+    control<QPushButton>(wizard, "CancelButton")->click();
+    need(gDB.GetRecCount(gDB.IssuesTable(), QStringLiteral("rowid")) == before,
+         QStringLiteral("the purge did not delete the old issues alone"));
+}
+
+void Tour::rebuildIndex()
+{
+    m_visitor->expect(QStringLiteral("frmDBMaint"), [this](QWidget *maintenance) {
+        control<QListWidget>(maintenance, "lstDataFiles")->setCurrentRow(0);
+        shoot(QStringLiteral("maintenance"));
+        const auto answer = [this](QMessageBox::StandardButton button, const char *picture) {
+            m_visitor->expect(QStringLiteral("QMessageBox"), [this, button, picture](QWidget *box) {
+                shoot(QLatin1String(picture));
+                static_cast<QMessageBox *>(box)->button(button)->click();
+            });
+        };
+        answer(QMessageBox::Ok, "maintenance-check");
+        control<QPushButton>(maintenance, "CheckButton")->click();
+        answer(QMessageBox::Yes, "maintenance-question");
+        answer(QMessageBox::Ok, "maintenance-done");
+        control<QPushButton>(maintenance, "IndexButton")->click();
+        control<QPushButton>(maintenance, "CloseButton")->click();
+    });
+    pressAndAnswer(QStringLiteral("menuHelpDatabaseMaintenance"));
 }
 
 void Tour::readHelp()

@@ -59,6 +59,8 @@ void Tour::allSteps()
     step(QStringLiteral("Add an entry to a lookup list"), [this] { extendList(); });
     step(QStringLiteral("Import a spreadsheet's customers"), [this] { importSpreadsheet(); });
     step(QStringLiteral("Give a colleague a login"), [this] { addUser(); });
+    step(QStringLiteral("Delete old issues for good"), [this] { purgeIssues(); });
+    step(QStringLiteral("Build an index anew"), [this] { rebuildIndex(); });
     step(QStringLiteral("Make a report"), [this] { makeReport(); });
     step(QStringLiteral("Arrange the windows"), [this] { arrangeWindows(); });
     step(QStringLiteral("Close the database and open it again"), [this] { reopen(); });

@@ -4,8 +4,8 @@
 // frmMain.cpp: its life and states. frmMainMenus.cpp: which commands there are and where they
 // stand. frmMainFile.cpp: the File commands. frmMainCommands.cpp: customers. frmMainIssues.cpp:
 // lists of issues. frmMainRecords.cpp: the records that belong to customers. frmMainReports.cpp:
-// reports. frmMainHelp.cpp: Help. frmMainAdmin.cpp: users, passwords, import, purge and
-// statistics. frmMainLists.cpp: lookup lists.
+// reports. frmMainHelp.cpp: Help. frmMainAdmin.cpp: users, passwords, import, purge, maintenance
+// and statistics. frmMainLists.cpp: lookup lists.
 // frmMainMail.cpp: mail. frmMainWindows.cpp: child windows and the Window menu.
 // frmMainSession.cpp: the windows that the next start takes up again.
 #pragma once
@@ -90,6 +90,7 @@ public:
     void UserManagement();
     void Customizations();
     void ImportData();
+    void PurgeOldIssues();
     void ManageIssueTemplates();
     void EditCustomerCategory();
     void EditProductServiceCategory();
@@ -138,6 +139,8 @@ private:
     void fileExit();
     void showStatistics();
     void countRecords();
+    void databaseMaintenance();
+    void addBulkIssues();
     void helpFAQs();
     void helpProductOverview();
     void helpSpecSheet();

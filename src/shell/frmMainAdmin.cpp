@@ -1,14 +1,17 @@
 // The commands of those who look after the database: users, passwords, names of fields,
-// import and statistics.
+// import, purge, maintenance and statistics.
 #include "shell/frmMain.h"
 
+#include "admin/clsDBUtil.h"
 #include "admin/frmChangePWD.h"
 #include "admin/frmDataImport.h"
 #include "admin/frmPreferences.h"
+#include "admin/frmPurgeIssues.h"
 #include "admin/frmUsers.h"
 #include "common/base/clsSystem.h"
 #include "common/base/Failure.h"
 #include "common/base/Host.h"
+#include "common/ui/FormWindow.h"
 #include "db/clsDB.h"
 
 #include <QScopedValueRollback>
@@ -48,6 +51,29 @@ void frmMain::ImportData()
 {
     if (gDB.Perm_DBAdmin())
         frmDataImport(this).exec();
+}
+
+void frmMain::PurgeOldIssues()
+{
+    if (!gDB.Perm_DBAdmin())
+        return;
+    if (IsFormLoaded(frmPurgeIssues::Tag))
+        BringFormToTop(frmPurgeIssues::Tag);
+    else
+        showChild(new frmPurgeIssues(BackupMsg()));
+}
+
+// Its files are needed alone, and an open window could be about to save to one of them.
+void frmMain::databaseMaintenance()
+{
+    if (gDB.Perm_DBAdmin() && UnloadAll(QStringLiteral("MAINFORM")))
+        clsDBUtil::DlgDBMaintenance(this, gDB.DataFilePaths());
+}
+
+void frmMain::addBulkIssues()
+{
+    if (gDB.Perm_DBAdmin() && UnloadAll(QStringLiteral("MAINFORM")))
+        gDB.AddBulkIssues();
 }
 
 // Window events run while it counts; a second count must not begin inside the first.

@@ -2,6 +2,7 @@
 // button or drop-down item of the toolbar.
 #include "shell/frmMain.h"
 
+#include "common/base/Preferences.h"
 #include "common/ui/Icons.h"
 #include "db/clsCustomLabels.h"
 #include "db/clsDB.h"
@@ -96,6 +97,8 @@ const std::vector<frmMain::MenuLine> &frmMain::menuLines()
          QT_TR_NOOP("Customizations..."), &frmMain::Customizations, "label"},
         {"mnuViewDatabaseAdmin", "mnuViewOptions", QT_TR_NOOP("Email Options..."),
          &frmMain::EmailHandlerDlg, "email"},
+        {"mnuViewDatabaseAdmin", "mnuViewDatabaseAdminPurgeOldIssues",
+         QT_TR_NOOP("Purge Old Issues Wizard..."), &frmMain::PurgeOldIssues, "delete"},
         {"mnuViewDatabaseAdmin", "mnuViewDatabaseAdminStatistics", QT_TR_NOOP("Statistics"),
          &frmMain::showStatistics, "statistics"},
 
@@ -112,6 +115,10 @@ const std::vector<frmMain::MenuLine> &frmMain::menuLines()
          "window-close"},
 
         {nullptr, "mnuHelp", QT_TR_NOOP("&Help")},
+        {"mnuHelp", "menuHelpDatabaseMaintenance", QT_TR_NOOP("Database &Maintenance..."),
+         &frmMain::databaseMaintenance, "database"},
+        {"mnuHelp", "mnuHelpBulkIssues", QT_TR_NOOP("Add Bulk Issues"), &frmMain::addBulkIssues,
+         "add"},
         {"mnuHelp", "mnuHelpFAQs", QT_TR_NOOP("FAQs"), &frmMain::helpFAQs, "faq"},
         {"mnuHelp", "mnuHelpQuickTour", QT_TR_NOOP("Product Overview"),
          &frmMain::helpProductOverview, "overview"},
@@ -158,6 +165,8 @@ const std::vector<frmMain::ToolLine> &frmMain::toolLines()
         {"ADMIN", "ADIMPWIZ", QT_TR_NOOP("Import Data Wizard"), "mnuViewDatabaseAdminImportData"},
         {"ADMIN", "ADCUSTOM", QT_TR_NOOP("Customizations"), "mnuViewDatabaseAdminCustomizations"},
         {"ADMIN", "ADEMAILOPT", QT_TR_NOOP("Email Options"), "mnuViewOptions"},
+        {"ADMIN", "ADIPURGE", QT_TR_NOOP("Purge Old Issues Wizard"),
+         "mnuViewDatabaseAdminPurgeOldIssues"},
         {"ADMIN", "ADSTAT", QT_TR_NOOP("Statistics"), "mnuViewDatabaseAdminStatistics"},
     };
     return lines;
@@ -177,6 +186,9 @@ void frmMain::InitMenus()
 {
     for (const MenuLine &line : menuLines())
         addMenuLine(line);
+    // For trials of large databases, and no command for people at work.
+    command(QStringLiteral("mnuHelpBulkIssues"))
+        ->setVisible(GetPrefStr(QStringLiteral("VolumeTrials")) == u"Y");
     command(QStringLiteral("mnuFileExit"))->setMenuRole(QAction::QuitRole);
     command(QStringLiteral("mnuHelpAbout"))->setMenuRole(QAction::AboutRole);
     connect(menuNamed(QStringLiteral("mnuWindow")), &QMenu::aboutToShow, this,

@@ -4,8 +4,10 @@
 
 #include "admin/frmChangePWD.h"
 #include "admin/frmDataImport.h"
+#include "admin/frmDBMaint.h"
 #include "admin/frmEditCategories.h"
 #include "admin/frmPreferences.h"
+#include "admin/frmPurgeIssues.h"
 #include "admin/frmUser.h"
 #include "admin/frmUsers.h"
 #include "admin/LookupLists.h"
@@ -238,6 +240,7 @@ TEST_F(MainWindow, EveryWindowCanBeReadAloudAndHasKeysOfOneMeaning)
              return form;
          }},
         {"frmDataImport", plain<frmDataImport>()},
+        {"frmDBMaint", plain<frmDBMaint>()},
         {"frmLogin", plain<frmLogin>()},
         {"frmIssueList", plain<frmIssueList>()},
         {"frmLookupCustomer", plain<frmLookupCustomer>()},
@@ -248,6 +251,7 @@ TEST_F(MainWindow, EveryWindowCanBeReadAloudAndHasKeysOfOneMeaning)
         {"frmPreferences", plain<frmPreferences>()},
         {"frmProgress", plain<frmProgress>()},
         {"frmProductReportDisplay", plain<frmProductReportDisplay>()},
+        {"frmPurgeIssues", plain<frmPurgeIssues>()},
         {"frmPSFilterDlg", plain<frmPSFilterDlg>()},
         {"frmReportDisplay", plain<frmReportDisplay>()},
         {"frmRichEdit", plain<frmRichEdit>()},

@@ -31,6 +31,8 @@ enum Topic {
     ReportList = 1390,
     ReportDefinition = 1400,
     ReportDisplay = 1410,
+    PurgeIssues = 1510,
+    DatabaseMaintenance = 1520,
     Printing = 1600,
     Keyboard = 1610
 };
