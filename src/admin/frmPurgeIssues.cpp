@@ -65,7 +65,7 @@ frmPurgeIssues::~frmPurgeIssues() = default;
 QSize frmPurgeIssues::sizeHint() const
 {
     return FormWindow::sizeHint().expandedTo(
-        {fontMetrics().averageCharWidth() * 110, fontMetrics().height() * 28});
+        {fontMetrics().averageCharWidth() * 128, fontMetrics().height() * 28});
 }
 
 void frmPurgeIssues::setUpList()

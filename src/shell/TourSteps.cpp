@@ -60,9 +60,9 @@ void Tour::allSteps()
     step(QStringLiteral("Import a spreadsheet's customers"), [this] { importSpreadsheet(); });
     step(QStringLiteral("Give a colleague a login"), [this] { addUser(); });
     step(QStringLiteral("Delete old issues for good"), [this] { purgeIssues(); });
-    step(QStringLiteral("Build an index anew"), [this] { rebuildIndex(); });
     step(QStringLiteral("Make a report"), [this] { makeReport(); });
     step(QStringLiteral("Arrange the windows"), [this] { arrangeWindows(); });
+    step(QStringLiteral("Build an index anew"), [this] { rebuildIndex(); });
     step(QStringLiteral("Close the database and open it again"), [this] { reopen(); });
     step(QStringLiteral("Help Center, tip of the day and manual"), [this] { readHelp(); });
     step(QStringLiteral("About the program"), [this] { showAbout(); });
