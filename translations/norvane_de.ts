@@ -1795,7 +1795,7 @@ Bitte bitten Sie Ihren Administrator um das Recht, die Dateien im Datenordner zu
     </message>
     <message>
         <source>Edi&amp;t Data</source>
-        <translation>Daten bearbe&amp;iten</translation>
+        <translation>Daten &amp;bearbeiten</translation>
     </message>
     <message>
         <source>Press Apply button to save this customer and to access Product/Services and Issues tabs</source>
@@ -1959,7 +1959,7 @@ Bitte bitten Sie Ihren Administrator um das Recht, die Dateien im Datenordner zu
     </message>
     <message>
         <source>&amp;Notes &amp;&amp; Additional Contacts</source>
-        <translation>Notizen &amp;&amp; &amp;weitere Ansprechpartner</translation>
+        <translation>Noti&amp;zen &amp;&amp; weitere Ansprechpartner</translation>
     </message>
     <message>
         <source>Notes:</source>
@@ -1971,11 +1971,11 @@ Bitte bitten Sie Ihren Administrator um das Recht, die Dateien im Datenordner zu
     </message>
     <message>
         <source>Date-Time &amp;Stamp</source>
-        <translation>Datums-/&amp;Zeitstempel</translation>
+        <translation>Datu&amp;ms-/Zeitstempel</translation>
     </message>
     <message>
         <source>Additional C&amp;ontacts:</source>
-        <translation>Weitere Ans&amp;prechpartner:</translation>
+        <translation>&amp;Weitere Ansprechpartner:</translation>
     </message>
     <message>
         <source>Additional Contacts</source>
@@ -1983,7 +1983,7 @@ Bitte bitten Sie Ihren Administrator um das Recht, die Dateien im Datenordner zu
     </message>
     <message>
         <source>Products/&amp;Services</source>
-        <translation>Produkte/Leistun&amp;gen</translation>
+        <translation>&amp;Produkte/Leistungen</translation>
     </message>
     <message>
         <source>The customer&apos;s products and services</source>
@@ -2007,7 +2007,7 @@ Bitte bitten Sie Ihren Administrator um das Recht, die Dateien im Datenordner zu
     </message>
     <message>
         <source>Pr&amp;operties...</source>
-        <translation>Eigenscha&amp;ften...</translation>
+        <translation>Ei&amp;genschaften...</translation>
     </message>
     <message>
         <source>Print this list (Ctrl+P)</source>
@@ -2055,7 +2055,7 @@ Bitte bitten Sie Ihren Administrator um das Recht, die Dateien im Datenordner zu
     </message>
     <message>
         <source>&amp;Email</source>
-        <translation>E-&amp;Mail</translation>
+        <translation>E-Ma&amp;il</translation>
     </message>
     <message>
         <source>Print  Preview customer information</source>
@@ -2679,7 +2679,7 @@ Möchten Sie den Kunden mit dem doppelten Wert in %2 trotzdem hinzufügen?</tran
     </message>
     <message>
         <source>Edi&amp;t Data</source>
-        <translation>Daten bearbe&amp;iten</translation>
+        <translation>Daten &amp;bearbeiten</translation>
     </message>
     <message>
         <source>Press Apply button to save this issue and to access Actions and Attachments tabs</source>
@@ -3060,7 +3060,7 @@ Bitte machen Sie eine Kopie des gesamten Datenordners, und stellen Sie die besch
     </message>
     <message>
         <source>Edi&amp;t Data</source>
-        <translation>&amp;Daten bearbeiten</translation>
+        <translation>Daten &amp;bearbeiten</translation>
     </message>
     <message>
         <source>&amp;Issue</source>
@@ -3080,7 +3080,7 @@ Bitte machen Sie eine Kopie des gesamten Datenordners, und stellen Sie die besch
     </message>
     <message>
         <source>Date-Time &amp;Stamp</source>
-        <translation>Datums-/&amp;Zeitstempel</translation>
+        <translation>&amp;Datums-/Zeitstempel</translation>
     </message>
     <message>
         <source>&amp;Resolution</source>
@@ -3975,7 +3975,7 @@ Datei, Datenbank öffnen... öffnet eine vorhandene; Datei, Neue Datenbank... le
     </message>
     <message>
         <source>Edi&amp;t Data</source>
-        <translation>Da&amp;ten bearbeiten</translation>
+        <translation>Daten &amp;bearbeiten</translation>
     </message>
     <message>
         <source>Press Apply button to save this record and to access Attachments tabs</source>
@@ -4099,7 +4099,7 @@ Datei, Datenbank öffnen... öffnet eine vorhandene; Datei, Neue Datenbank... le
     </message>
     <message>
         <source>Last Edi&amp;t</source>
-        <translation>&amp;Letzte Bearbeitung</translation>
+        <translation>Le&amp;tzte Bearbeitung</translation>
     </message>
     <message>
         <source>Email product/service details</source>
@@ -4131,7 +4131,7 @@ Datei, Datenbank öffnen... öffnet eine vorhandene; Datei, Neue Datenbank... le
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation>Lös&amp;chen</translation>
+        <translation>&amp;Löschen</translation>
     </message>
     <message>
         <source>OK</source>
@@ -4409,7 +4409,7 @@ Datei, Datenbank öffnen... öffnet eine vorhandene; Datei, Neue Datenbank... le
     </message>
     <message>
         <source>Edi&amp;t Data</source>
-        <translation>&amp;Daten bearbeiten</translation>
+        <translation>Daten &amp;bearbeiten</translation>
     </message>
     <message>
         <source>Give the report a title, add the columns to display, and press OK or Apply.</source>
@@ -4421,15 +4421,15 @@ Datei, Datenbank öffnen... öffnet eine vorhandene; Datei, Neue Datenbank... le
     </message>
     <message>
         <source>&amp;Report</source>
-        <translation>Ber&amp;icht</translation>
+        <translation>Beri&amp;cht</translation>
     </message>
     <message>
         <source>Report T&amp;itle:</source>
-        <translation>Beri&amp;chtstitel:</translation>
+        <translation>Bericht&amp;stitel:</translation>
     </message>
     <message>
         <source>C&amp;olumns to display, in this order:</source>
-        <translation>Anzuzeigende &amp;Spalten, in dieser Reihenfolge:</translation>
+        <translation>&amp;Anzuzeigende Spalten, in dieser Reihenfolge:</translation>
     </message>
     <message>
         <source>Columns to display</source>
@@ -4441,7 +4441,7 @@ Datei, Datenbank öffnen... öffnet eine vorhandene; Datei, Neue Datenbank... le
     </message>
     <message>
         <source>&amp;Add Columns...</source>
-        <translation>Spalten &amp;hinzufügen...</translation>
+        <translation>S&amp;palten hinzufügen...</translation>
     </message>
     <message>
         <source>Take the selected column out of the report</source>
@@ -4449,7 +4449,7 @@ Datei, Datenbank öffnen... öffnet eine vorhandene; Datei, Neue Datenbank... le
     </message>
     <message>
         <source>Re&amp;move</source>
-        <translation>En&amp;tfernen</translation>
+        <translation>Ent&amp;fernen</translation>
     </message>
     <message>
         <source>Show the selected column further left</source>
@@ -4457,7 +4457,7 @@ Datei, Datenbank öffnen... öffnet eine vorhandene; Datei, Neue Datenbank... le
     </message>
     <message>
         <source>Move &amp;Up</source>
-        <translation>&amp;Nach oben</translation>
+        <translation>Nach &amp;oben</translation>
     </message>
     <message>
         <source>Show the selected column further right</source>
@@ -4469,7 +4469,7 @@ Datei, Datenbank öffnen... öffnet eine vorhandene; Datei, Neue Datenbank... le
     </message>
     <message>
         <source>&amp;Keep only records that meet all of these criteria (= is, # is not):</source>
-        <translation>Nur Datensätze, die a&amp;lle diese Kriterien erfüllen (= ist, # ist nicht):</translation>
+        <translation>&amp;Nur Datensätze, die alle diese Kriterien erfüllen (= ist, # ist nicht):</translation>
     </message>
     <message>
         <source>Criteria</source>
@@ -4481,7 +4481,7 @@ Datei, Datenbank öffnen... öffnet eine vorhandene; Datei, Neue Datenbank... le
     </message>
     <message>
         <source>Add &amp;Criterion...</source>
-        <translation>&amp;Kriterium hinzufügen...</translation>
+        <translation>Kriteriu&amp;m hinzufügen...</translation>
     </message>
     <message>
         <source>Take the selected criterion out of the report</source>
@@ -4489,7 +4489,7 @@ Datei, Datenbank öffnen... öffnet eine vorhandene; Datei, Neue Datenbank... le
     </message>
     <message>
         <source>R&amp;emove</source>
-        <translation>Ent&amp;fernen</translation>
+        <translation>En&amp;tfernen</translation>
     </message>
     <message>
         <source>Options</source>
@@ -4505,7 +4505,7 @@ Datei, Datenbank öffnen... öffnet eine vorhandene; Datei, Neue Datenbank... le
     </message>
     <message>
         <source>Show Row Num&amp;bers</source>
-        <translation>Zeilennummern zei&amp;gen</translation>
+        <translation>&amp;Zeilennummern zeigen</translation>
     </message>
     <message>
         <source>Printed Page Orientation:</source>
@@ -4517,11 +4517,11 @@ Datei, Datenbank öffnen... öffnet eine vorhandene; Datei, Neue Datenbank... le
     </message>
     <message>
         <source>&amp;Potrait</source>
-        <translation>H&amp;ochformat</translation>
+        <translation>&amp;Hochformat</translation>
     </message>
     <message>
         <source>&amp;Notes</source>
-        <translation>Noti&amp;zen</translation>
+        <translation>Not&amp;izen</translation>
     </message>
     <message>
         <source>Notes:</source>
@@ -4533,7 +4533,7 @@ Datei, Datenbank öffnen... öffnet eine vorhandene; Datei, Neue Datenbank... le
     </message>
     <message>
         <source>Date-Time Stam&amp;p</source>
-        <translation>Datu&amp;ms-/Zeitstempel</translation>
+        <translation>&amp;Datums-/Zeitstempel</translation>
     </message>
     <message>
         <source>Last Edit</source>
@@ -4545,7 +4545,7 @@ Datei, Datenbank öffnen... öffnet eine vorhandene; Datei, Neue Datenbank... le
     </message>
     <message>
         <source>Re&amp;fresh</source>
-        <translation>&amp;Aktualisieren</translation>
+        <translation>A&amp;ktualisieren</translation>
     </message>
     <message>
         <source>Delete this report</source>
@@ -4553,7 +4553,7 @@ Datei, Datenbank öffnen... öffnet eine vorhandene; Datei, Neue Datenbank... le
     </message>
     <message>
         <source>De&amp;lete</source>
-        <translation>L&amp;öschen</translation>
+        <translation>&amp;Löschen</translation>
     </message>
     <message>
         <source>OK</source>
@@ -5114,7 +5114,7 @@ Was möchten Sie tun?</translation>
     </message>
     <message>
         <source>Edi&amp;t Data</source>
-        <translation>&amp;Daten bearbeiten</translation>
+        <translation>Daten &amp;bearbeiten</translation>
     </message>
     <message>
         <source>&amp;User</source>

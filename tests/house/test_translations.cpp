@@ -39,12 +39,12 @@ Texts textsOf(const QString &path)
         } else if (xml.name() == u"source") {
             source = xml.readElementText();
         } else if (xml.name() == u"translation") {
-            const bool finished = !xml.attributes().hasAttribute(u"type");
+            const bool finished = !xml.attributes().hasAttribute(QLatin1String("type"));
             const QString text = xml.readElementText(QXmlStreamReader::IncludeChildElements);
             texts.insert(context + u'|' + source, {text, finished});
         }
     }
-    EXPECT_FALSE(xml.hasError()) << qPrintable(path + xml.errorString());
+    EXPECT_FALSE(xml.hasError()) << qPrintable(xml.errorString());
     return texts;
 }
 
@@ -71,11 +71,15 @@ QStringList keptParts(const QString &text)
     QStringList parts = places.values();
     parts.sort();
     const QString end = text.trimmed();
-    parts += end.endsWith(QLatin1String("...")) ? "goes on" : "";
-    parts += end.endsWith(u':') ? "colon" : "";
-    parts += text.contains(accessKey) ? "access key" : "";
-    parts += text.endsWith(u' ') ? "blank" : "";
-    parts += QString::number(text.count(u'\n')) + u'/' + QString::number(text.count(u'|'));
+    if (end.endsWith(QLatin1String("...")))
+        parts.append(QStringLiteral("goes on"));
+    if (end.endsWith(u':'))
+        parts.append(QStringLiteral("colon"));
+    if (text.contains(accessKey))
+        parts.append(QStringLiteral("access key"));
+    if (text.endsWith(u' '))
+        parts.append(QStringLiteral("blank"));
+    parts.append(QStringLiteral("%1 lines, %2 bars").arg(text.count(u'\n')).arg(text.count(u'|')));
     return parts;
 }
 
@@ -109,9 +113,10 @@ TEST(Translations, SayEverythingAndKeepWhatTheProgramNeeds)
             continue;
         const Texts texts = textsOf(folder().filePath(name));
         for (auto it = texts.begin(); it != texts.end(); ++it) {
-            EXPECT_TRUE(it->finished && !it->text.isEmpty()) << qPrintable(name + u' ' + it.key());
             const QString source = it.key().section(u'|', 1);
-            EXPECT_EQ(keptParts(it->text), keptParts(source)) << qPrintable(name + u' ' + it.key());
+            const QString where = name + u' ' + it.key();
+            EXPECT_TRUE(it->finished && !it->text.isEmpty()) << qPrintable(where);
+            EXPECT_EQ(keptParts(it->text), keptParts(source)) << qPrintable(where);
         }
     }
 }

@@ -36,7 +36,7 @@ TEST_F(MainWindow, SpeaksGermanAndThenEnglishAgain)
         auto *customer = window("frmCustomer");
         ASSERT_NE(customer, nullptr);
         EXPECT_EQ(customer->windowTitle(), expected.caption);
-        EXPECT_EQ(withoutKey(customer->findChild<QPushButton *>("cmdEdit")->text()),
+        EXPECT_EQ(withoutKey(customer->findChild<QPushButton *>("lblEdit")->text()),
                   expected.button);
         QStringList labels;
         for (const QLabel *label : customer->findChildren<QLabel *>())
