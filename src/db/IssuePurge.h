@@ -22,12 +22,13 @@ public:
 
     explicit IssuePurge(clsDB &db) : m_db(db) {}
 
-    // The numbers of issues; a row is locked while it is deleted and no longer, edit marks are not
-    // asked. What could not be deleted was or will be told, and does not hold up the rest.
+    // The numbers of issues; edit marks are not asked. What could not be deleted was or will be
+    // told, and does not hold up the rest.
     PurgeResult DeleteIssues(const QList<qint32> &ids, const Progress &progress);
 
 private:
-    bool deleteIssue(qint32 id, clsDB::Handle issues, clsDB::Handle actions);
+    QList<qint32> deleteWhatBelongsTo(const QList<qint32> &ids, clsDB::Handle actions);
+    void deleteTogether(clsDB::Handle table, const QString &tag, const QList<qint32> &keys);
 
     clsDB &m_db;
 };

@@ -48,11 +48,11 @@ private:
     bool m_seekable = true;
 };
 
-// Ten attempts for a lock while it lives, without end again afterwards.
+// So many attempts for a lock while it lives, without end again afterwards.
 class LockAttempts
 {
 public:
-    explicit LockAttempts(clsDB::Handle session);
+    explicit LockAttempts(clsDB::Handle session, int attempts = 10);
     ~LockAttempts();
     LockAttempts(const LockAttempts &) = delete;
     LockAttempts &operator=(const LockAttempts &) = delete;

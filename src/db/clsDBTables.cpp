@@ -172,9 +172,9 @@ QString TableUse::text(const QString &fieldName) const
     return clsSystem::Trim(FieldText(field(fieldName)));
 }
 
-LockAttempts::LockAttempts(clsDB::Handle session) : m_session(session)
+LockAttempts::LockAttempts(clsDB::Handle session, int attempts) : m_session(session)
 {
-    code4lockAttempts(m_session, 10);
+    code4lockAttempts(m_session, attempts);
 }
 
 LockAttempts::~LockAttempts()
