@@ -120,9 +120,11 @@ private:
         return font;
     }
 
-    // All shown columns fill the usable width, in the proportions of the screen.
+    // All shown columns fill the usable width, in the proportions of the screen. A text that takes
+    // all of its column still stands apart from the next.
     void placeColumns()
     {
+        const qreal between = m_font.width(QStringLiteral("n"));
         const QList<int> &widths = m_table.widths;
         const qreal usable = m_pages.width() - m_margins.left() - m_margins.right();
         const qreal scale = std::max<qreal>(usable, 0) / std::max(1, sum(widths));
@@ -130,7 +132,7 @@ private:
         for (int index = 0; index < widths.size(); ++index) {
             const qreal width = widths[index] * scale;
             if (width > 0)
-                m_columns.append({index, left, width});
+                m_columns.append({index, left, std::max(width - between, width / 2)});
             left += width;
         }
     }
