@@ -93,11 +93,13 @@ const ReportTable &ReportWindow::report() const
     return m_model->table();
 }
 
-// A page of rows, and room for a few columns.
+// A page of rows, and room for a few columns and for the number of rows, which is not known yet and
+// would push the buttons together.
 QSize ReportWindow::sizeHint() const
 {
-    return FormWindow::sizeHint().expandedTo(
-               {130 * fontMetrics().averageCharWidth(), FormWindow::sizeHint().height()}) +
+    const int letter = fontMetrics().averageCharWidth();
+    const QSize controls = FormWindow::sizeHint() + QSize(10 * letter, 0);
+    return controls.expandedTo({130 * letter, controls.height()}) +
            QSize(0, 14 * fontMetrics().height());
 }
 

@@ -35,7 +35,7 @@ TEST_F(MainWindow, SpeaksGermanAndThenEnglishAgain)
         main->ShowCustomer(database->addCustomer({{"lastname", "Smith"}}), false);
         auto *customer = window("frmCustomer");
         ASSERT_NE(customer, nullptr);
-        EXPECT_EQ(customer->windowTitle(), expected.caption);
+        EXPECT_TRUE(customer->windowTitle().startsWith(expected.caption));
         EXPECT_EQ(withoutKey(customer->findChild<QPushButton *>("lblEdit")->text()),
                   expected.button);
         QStringList labels;
