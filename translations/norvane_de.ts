@@ -890,15 +890,15 @@ Feldname:
     <name>LabelledLine</name>
     <message>
         <source>Last Modified By:</source>
-        <translation>Zuletzt geändert von:</translation>
+        <translation>Geändert von:</translation>
     </message>
     <message>
         <source>Last Modified On:</source>
-        <translation>Zuletzt geändert am:</translation>
+        <translation>Geändert am:</translation>
     </message>
     <message>
         <source>Last Modified At:</source>
-        <translation>Zuletzt geändert um:</translation>
+        <translation>Geändert um:</translation>
     </message>
 </context>
 <context>
@@ -1403,11 +1403,11 @@ Der Text wurde gespeichert in %2</translation>
     </message>
     <message>
         <source>Work Phone</source>
-        <translation>Telefon geschäftlich</translation>
+        <translation>Tel. geschäftlich</translation>
     </message>
     <message>
         <source>Home Phone</source>
-        <translation>Telefon privat</translation>
+        <translation>Tel. privat</translation>
     </message>
     <message>
         <source>Mobile Phone</source>
@@ -1439,7 +1439,7 @@ Der Text wurde gespeichert in %2</translation>
     </message>
     <message>
         <source>Contract or Part Number</source>
-        <translation>Vertrags- oder Teilenummer</translation>
+        <translation>Vertrags-/Teilenummer</translation>
     </message>
     <message>
         <source>Tracking Number:</source>
@@ -1903,11 +1903,11 @@ Bitte bitten Sie Ihren Administrator um das Recht, die Dateien im Datenordner zu
     </message>
     <message>
         <source>Work Phone:</source>
-        <translation>Telefon geschäftlich:</translation>
+        <translation>Tel. geschäftlich:</translation>
     </message>
     <message>
         <source>Home Phone:</source>
-        <translation>Telefon privat:</translation>
+        <translation>Tel. privat:</translation>
     </message>
     <message>
         <source>Mobile Phone:</source>
@@ -4015,7 +4015,7 @@ Datei, Datenbank öffnen... öffnet eine vorhandene; Datei, Neue Datenbank... le
     </message>
     <message>
         <source>Contract or Part Number:</source>
-        <translation>Vertrags- oder Teilenummer:</translation>
+        <translation>Vertrags-/Teilenummer:</translation>
     </message>
     <message>
         <source>Tracking Number:</source>
