@@ -130,16 +130,8 @@
         <translation>Die Kopie einer Datei an diesen Datensatz anhängen</translation>
     </message>
     <message>
-        <source>Attach &amp;File...</source>
-        <translation>&amp;Datei anhängen...</translation>
-    </message>
-    <message>
         <source>Open the attachment with the program for it (Enter)</source>
         <translation>Die Anlage mit dem zugehörigen Programm öffnen (Eingabe)</translation>
-    </message>
-    <message>
-        <source>&amp;View</source>
-        <translation>&amp;Anzeigen</translation>
     </message>
     <message>
         <source>Save a copy of the attachment elsewhere</source>
@@ -248,6 +240,14 @@
     <message>
         <source>Unable to rename &apos;%1&apos; to &apos;%2&apos;!</source>
         <translation>„%1“ kann nicht in „%2“ umbenannt werden!</translation>
+    </message>
+    <message>
+        <source>Atta&amp;ch File...</source>
+        <translation>Datei anhän&amp;gen...</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Anzeigen</translation>
     </message>
 </context>
 <context>
@@ -1153,6 +1153,21 @@ Bitte wählen Sie das Menü Ansicht, Optionen, um Ihre E-Mail-Optionen zu prüfe
     </message>
 </context>
 <context>
+    <name>Reindex</name>
+    <message>
+        <source>the file &apos;%1&apos; is missing; please re-install the program</source>
+        <translation>die Datei &apos;%1&apos; fehlt; bitte installieren Sie das Programm neu</translation>
+    </message>
+    <message>
+        <source>the index could not be copied to &apos;%1&apos;; the folder may be read-only or the disk full</source>
+        <translation>der Index konnte nicht nach &apos;%1&apos; kopiert werden; vielleicht ist der Ordner schreibgeschützt oder der Datenträger voll</translation>
+    </message>
+    <message>
+        <source>it is open at another station</source>
+        <translation>sie ist an einem anderen Arbeitsplatz geöffnet</translation>
+    </message>
+</context>
+<context>
     <name>ReportRun</name>
     <message>
         <source>Invalid table name found in the report column table!</source>
@@ -1624,6 +1639,28 @@ Bitte bitten Sie Ihren Administrator um das Recht, die Dateien im Datenordner zu
     </message>
 </context>
 <context>
+    <name>clsDBBulk</name>
+    <message>
+        <source>Adding issues</source>
+        <translation>Vorgänge werden angelegt</translation>
+    </message>
+    <message>
+        <source>Please wait...</source>
+        <translation>Bitte warten...</translation>
+    </message>
+</context>
+<context>
+    <name>clsDBUtil</name>
+    <message>
+        <source>No database is currently open. See File menu.</source>
+        <translation>Zurzeit ist keine Datenbank geöffnet. Siehe Menü Datei.</translation>
+    </message>
+    <message>
+        <source>No Database Open</source>
+        <translation>Keine Datenbank geöffnet</translation>
+    </message>
+</context>
+<context>
     <name>clsImportData</name>
     <message>
         <source>must be numeric.</source>
@@ -1998,10 +2035,6 @@ Bitte bitten Sie Ihren Administrator um das Recht, die Dateien im Datenordner zu
         <translation>Diesem Kunden ein Produkt oder eine Leistung hinzufügen</translation>
     </message>
     <message>
-        <source>Ne&amp;w...</source>
-        <translation>Ne&amp;u...</translation>
-    </message>
-    <message>
         <source>Open the selected product or service (Enter)</source>
         <translation>Das ausgewählte Produkt oder die Leistung öffnen (Eingabe)</translation>
     </message>
@@ -2255,6 +2288,10 @@ Möchten Sie den Kunden mit dem doppelten Wert in %2 trotzdem hinzufügen?</tran
         <source>Email:</source>
         <translation>E-Mail:</translation>
     </message>
+    <message>
+        <source>New...</source>
+        <translation>Neu...</translation>
+    </message>
 </context>
 <context>
     <name>frmCustomerList</name>
@@ -2341,6 +2378,133 @@ Möchten Sie den Kunden mit dem doppelten Wert in %2 trotzdem hinzufügen?</tran
     <message>
         <source>All Customers</source>
         <translation>Alle Kunden</translation>
+    </message>
+</context>
+<context>
+    <name>frmDBMaint</name>
+    <message>
+        <source>Database Maintenance</source>
+        <translation>Datenbankwartung</translation>
+    </message>
+    <message>
+        <source>Data &amp;files:</source>
+        <translation>Daten&amp;dateien:</translation>
+    </message>
+    <message>
+        <source>Data files</source>
+        <translation>Datendateien</translation>
+    </message>
+    <message>
+        <source>&amp;Re-Index...</source>
+        <translation>Neu &amp;indizieren...</translation>
+    </message>
+    <message>
+        <source>Build the index of the selected file anew from its rows</source>
+        <translation>Den Index der ausgewählten Datei aus ihren Sätzen neu aufbauen</translation>
+    </message>
+    <message>
+        <source>Chec&amp;k...</source>
+        <translation>&amp;Prüfen...</translation>
+    </message>
+    <message>
+        <source>Look whether the selected file and its index are sound; changes nothing</source>
+        <translation>Nachsehen, ob die ausgewählte Datei und ihr Index in Ordnung sind; ändert nichts</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>This page of the manual (F1)</source>
+        <translation>Diese Seite des Handbuchs (F1)</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>WARNING: </source>
+        <translation>WARNUNG: </translation>
+    </message>
+    <message>
+        <source>1. Backup your Database Files (See Help menu) before performing any maintenance</source>
+        <translation>1. Sichern Sie Ihre Datenbankdateien (siehe Menü Hilfe), bevor Sie eine Wartung ausführen</translation>
+    </message>
+    <message>
+        <source>2. Make sure no one is using the application before performing any maintenance</source>
+        <translation>2. Stellen Sie sicher, dass niemand das Programm benutzt, bevor Sie eine Wartung ausführen</translation>
+    </message>
+    <message>
+        <source>No data file selected</source>
+        <translation>Keine Datendatei ausgewählt</translation>
+    </message>
+    <message>
+        <source>Select a data file!</source>
+        <translation>Wählen Sie eine Datendatei aus!</translation>
+    </message>
+    <message>
+        <source>You are about to Re-Index the following file:</source>
+        <translation>Sie sind dabei, die folgende Datei neu zu indizieren:</translation>
+    </message>
+    <message>
+        <source>This operation may take several minutes and requires exclusive access to data files. Do you want to continue?</source>
+        <translation>Dieser Vorgang kann einige Minuten dauern und braucht die Datendateien für sich allein. Möchten Sie fortfahren?</translation>
+    </message>
+    <message>
+        <source>Re-Index Data File</source>
+        <translation>Datendatei neu indizieren</translation>
+    </message>
+    <message>
+        <source>Indexing %1 ... Please wait...</source>
+        <translation>%1 wird indiziert ... Bitte warten...</translation>
+    </message>
+    <message>
+        <source>The reason: %1.</source>
+        <translation>Der Grund: %1.</translation>
+    </message>
+    <message>
+        <source>Nothing was changed. Close the database at all other stations and try again.</source>
+        <translation>Es wurde nichts geändert. Schließen Sie die Datenbank an allen anderen Arbeitsplätzen und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>The index as it was is kept in &apos;%1&apos;.</source>
+        <translation>Der bisherige Index liegt weiterhin in &apos;%1&apos;.</translation>
+    </message>
+    <message>
+        <source>%1 has been re-indexed.</source>
+        <translation>%1 wurde neu indiziert.</translation>
+    </message>
+    <message>
+        <source>File Indexed</source>
+        <translation>Datei indiziert</translation>
+    </message>
+    <message>
+        <source>Unable to index file: %1</source>
+        <translation>Datei kann nicht indiziert werden: %1</translation>
+    </message>
+    <message>
+        <source>File Indexing Failed</source>
+        <translation>Indizieren fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Checking %1 ... Please wait...</source>
+        <translation>%1 wird geprüft ... Bitte warten...</translation>
+    </message>
+    <message>
+        <source>%1 and its index are sound. There is nothing to do.</source>
+        <translation>%1 und der Index dazu sind in Ordnung. Es ist nichts zu tun.</translation>
+    </message>
+    <message>
+        <source>Check Data File</source>
+        <translation>Datendatei prüfen</translation>
+    </message>
+    <message>
+        <source>The check of %1 found this:</source>
+        <translation>Die Prüfung von %1 hat Folgendes gefunden:</translation>
+    </message>
+    <message>
+        <source>The button Re-Index rebuilds the index here and now, if nobody else has the database open.</source>
+        <translation>Die Schaltfläche Neu indizieren baut den Index sofort neu auf, wenn niemand sonst die Datenbank geöffnet hat.</translation>
     </message>
 </context>
 <context>
@@ -2746,10 +2910,6 @@ Möchten Sie den Kunden mit dem doppelten Wert in %2 trotzdem hinzufügen?</tran
         <translation>Den Vorgang neu lesen (F5)</translation>
     </message>
     <message>
-        <source>Re&amp;fresh</source>
-        <translation>Akt&amp;ualisieren</translation>
-    </message>
-    <message>
         <source>Delete this issue</source>
         <translation>Diesen Vorgang löschen</translation>
     </message>
@@ -2828,6 +2988,10 @@ Möchten Sie den Kunden mit dem doppelten Wert in %2 trotzdem hinzufügen?</tran
     <message>
         <source>Resolution Date:</source>
         <translation>Lösungsdatum:</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Aktualisieren</translation>
     </message>
 </context>
 <context>
@@ -3115,10 +3279,6 @@ Bitte machen Sie eine Kopie des gesamten Datenordners, und stellen Sie die besch
         <translation>Die Vorgangsvorlage neu lesen (F5)</translation>
     </message>
     <message>
-        <source>Re&amp;fresh</source>
-        <translation>&amp;Aktualisieren</translation>
-    </message>
-    <message>
         <source>Delete this issue template</source>
         <translation>Diese Vorgangsvorlage löschen</translation>
     </message>
@@ -3157,6 +3317,10 @@ Bitte machen Sie eine Kopie des gesamten Datenordners, und stellen Sie die besch
         <translation>VORGANGSVORLAGE: %1
 
 </translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Aktualisieren</translation>
     </message>
 </context>
 <context>
@@ -3737,6 +3901,26 @@ Datei, Datenbank öffnen... öffnet eine vorhandene; Datei, Neue Datenbank... le
         <source>Email Options</source>
         <translation>E-Mail-Optionen</translation>
     </message>
+    <message>
+        <source>&amp;Recent Databases</source>
+        <translation>&amp;Zuletzt geöffnete Datenbanken</translation>
+    </message>
+    <message>
+        <source>Purge Old Issues Wizard...</source>
+        <translation>Assistent für alte Vorgänge...</translation>
+    </message>
+    <message>
+        <source>Database &amp;Maintenance...</source>
+        <translation>Datenbank&amp;wartung...</translation>
+    </message>
+    <message>
+        <source>Add Bulk Issues</source>
+        <translation>Vorgänge in Mengen anlegen</translation>
+    </message>
+    <message>
+        <source>Purge Old Issues Wizard</source>
+        <translation>Assistent für alte Vorgänge</translation>
+    </message>
 </context>
 <context>
     <name>frmMessage</name>
@@ -4122,10 +4306,6 @@ Datei, Datenbank öffnen... öffnet eine vorhandene; Datei, Neue Datenbank... le
         <translation>Den Datensatz neu lesen</translation>
     </message>
     <message>
-        <source>Refres&amp;h</source>
-        <translation>A&amp;ktualisieren</translation>
-    </message>
-    <message>
         <source>Delete this record and its attachments</source>
         <translation>Diesen Datensatz und seine Anlagen löschen</translation>
     </message>
@@ -4188,6 +4368,10 @@ Datei, Datenbank öffnen... öffnet eine vorhandene; Datei, Neue Datenbank... le
         <translation>PRODUKT-/LEISTUNGSDATEN
 
 </translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Aktualisieren</translation>
     </message>
 </context>
 <context>
@@ -4402,6 +4586,201 @@ Datei, Datenbank öffnen... öffnet eine vorhandene; Datei, Neue Datenbank... le
     </message>
 </context>
 <context>
+    <name>frmPurgeIssues</name>
+    <message>
+        <source>Purge (Delete) Old Issues Wizard</source>
+        <translation>Assistent zum Löschen alter Vorgänge</translation>
+    </message>
+    <message>
+        <source>How to &amp;backup data?</source>
+        <translation>Wie werden Daten ge&amp;sichert?</translation>
+    </message>
+    <message>
+        <source>What to copy, and where it lies</source>
+        <translation>Was zu kopieren ist und wo es liegt</translation>
+    </message>
+    <message>
+        <source>If you would like to continue to purge/delete old issues press &quot;Next &gt;&gt;&quot; button or press &quot;Cancel&quot; to quit...</source>
+        <translation>Wenn Sie mit dem Löschen alter Vorgänge fortfahren möchten, klicken Sie auf &quot;Weiter &gt;&gt;&quot;, sonst zum Beenden auf &quot;Abbrechen&quot;...</translation>
+    </message>
+    <message>
+        <source>Issue Submit &amp;Date:</source>
+        <translation>Eingangs&amp;datum des Vorgangs:</translation>
+    </message>
+    <message>
+        <source>Issue submit date</source>
+        <translation>Eingangsdatum des Vorgangs</translation>
+    </message>
+    <message>
+        <source>Calendar</source>
+        <translation>Kalender</translation>
+    </message>
+    <message>
+        <source>Choose the date from a calendar</source>
+        <translation>Das Datum in einem Kalender wählen</translation>
+    </message>
+    <message>
+        <source>Issues submitted on that day or before it</source>
+        <translation>Vorgänge, die an diesem Tag oder davor eingegangen sind</translation>
+    </message>
+    <message>
+        <source>&amp;Issue Status Criteria:</source>
+        <translation>&amp;Kriterium Vorgangsstatus:</translation>
+    </message>
+    <message>
+        <source>Issue status criteria</source>
+        <translation>Kriterium Vorgangsstatus</translation>
+    </message>
+    <message>
+        <source>Issues of any other status are left alone</source>
+        <translation>Vorgänge mit jedem anderen Status bleiben unberührt</translation>
+    </message>
+    <message>
+        <source>Here&apos;s a preview of all issues that will be deleted...</source>
+        <translation>Hier sehen Sie alle Vorgänge, die gelöscht werden...</translation>
+    </message>
+    <message>
+        <source>Issues to delete</source>
+        <translation>Zu löschende Vorgänge</translation>
+    </message>
+    <message>
+        <source>Press &quot;Purge Now&quot; to delete these issues or press cancel to quit...</source>
+        <translation>Klicken Sie auf &quot;Jetzt löschen&quot;, um diese Vorgänge zu löschen, oder zum Beenden auf Abbrechen...</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>Ö&amp;ffnen</translation>
+    </message>
+    <message>
+        <source>Open the selected issue</source>
+        <translation>Den ausgewählten Vorgang öffnen</translation>
+    </message>
+    <message>
+        <source>Prin&amp;t</source>
+        <translation>D&amp;rucken</translation>
+    </message>
+    <message>
+        <source>Print the list (Ctrl+P)</source>
+        <translation>Die Liste drucken (Strg+P)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>This page of the manual (F1)</source>
+        <translation>Diese Seite des Handbuchs (F1)</translation>
+    </message>
+    <message>
+        <source>&lt;&lt; &amp;Previous</source>
+        <translation>&lt;&lt; &amp;Zurück</translation>
+    </message>
+    <message>
+        <source>&amp;Next &gt;&gt;</source>
+        <translation>&amp;Weiter &gt;&gt;</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>BACK UP YOUR DATA FIRST! We strongly suggest that you backup your %1 database now, before you purge any old issues... Once you delete issues they cannot be recovered! </source>
+        <translation>SICHERN SIE ZUERST IHRE DATEN! Wir raten Ihnen dringend, Ihre %1-Datenbank jetzt zu sichern, bevor Sie alte Vorgänge löschen... Einmal gelöschte Vorgänge lassen sich nicht wiederherstellen! </translation>
+    </message>
+    <message>
+        <source>Issue No.</source>
+        <translation>Vorgang Nr.</translation>
+    </message>
+    <message>
+        <source>Submit Date</source>
+        <translation>Eingangsdatum</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Short Description</source>
+        <translation>Kurzbeschreibung</translation>
+    </message>
+    <message>
+        <source>&amp;Purge Now</source>
+        <translation>&amp;Jetzt löschen</translation>
+    </message>
+    <message>
+        <source>Issues submitted on or before %1 with an issue status of &apos;%2&apos;</source>
+        <translation>Vorgänge, eingegangen bis einschließlich %1, mit dem Vorgangsstatus &apos;%2&apos;</translation>
+    </message>
+    <message>
+        <source>%1 issue(s)</source>
+        <translation>%1 Vorgang/Vorgänge</translation>
+    </message>
+    <message>
+        <source>  - Issue Submit Date must be entered.</source>
+        <translation>  - Das Eingangsdatum muss eingegeben werden.</translation>
+    </message>
+    <message>
+        <source>  - Issue Submit Date is not a valid date.</source>
+        <translation>  - Das Eingangsdatum ist kein gültiges Datum.</translation>
+    </message>
+    <message>
+        <source>  - Issue Status Criteria must be selected.</source>
+        <translation>  - Ein Vorgangsstatus muss ausgewählt werden.</translation>
+    </message>
+    <message>
+        <source>Please correct the following errors before proceeding:</source>
+        <translation>Bitte berichtigen Sie vor dem Fortfahren die folgenden Fehler:</translation>
+    </message>
+    <message>
+        <source>The issues could not be read.</source>
+        <translation>Die Vorgänge konnten nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Displaying issues that meet the criteria. Please wait...</source>
+        <translation>Vorgänge, die den Kriterien entsprechen, werden angezeigt. Bitte warten...</translation>
+    </message>
+    <message>
+        <source>No issue meets the criteria.</source>
+        <translation>Kein Vorgang entspricht den Kriterien.</translation>
+    </message>
+    <message>
+        <source>The list was cancelled.</source>
+        <translation>Die Liste wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>Currently, there are no issues to purge/delete that meet your criteria.</source>
+        <translation>Zurzeit gibt es keine zu löschenden Vorgänge, die Ihren Kriterien entsprechen.</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to PERMANENTLY DELETE the displayed issues?</source>
+        <translation>Möchten Sie die angezeigten Vorgänge wirklich ENDGÜLTIG LÖSCHEN?</translation>
+    </message>
+    <message>
+        <source>Delete Confirmation</source>
+        <translation>Löschen bestätigen</translation>
+    </message>
+    <message>
+        <source>&amp;Finish</source>
+        <translation>&amp;Fertig stellen</translation>
+    </message>
+    <message>
+        <source>Deleting Issues</source>
+        <translation>Vorgänge werden gelöscht</translation>
+    </message>
+    <message>
+        <source>Please wait...</source>
+        <translation>Bitte warten...</translation>
+    </message>
+    <message>
+        <source>%1 issues have been deleted!</source>
+        <translation>%1 Vorgänge wurden gelöscht!</translation>
+    </message>
+    <message>
+        <source>%1 of the issues could not be deleted and remain. Run this wizard again with the same date and status to delete them.</source>
+        <translation>%1 der Vorgänge konnten nicht gelöscht werden und bleiben bestehen. Führen Sie diesen Assistenten mit demselben Datum und Status erneut aus, um sie zu löschen.</translation>
+    </message>
+</context>
+<context>
     <name>frmReportDef</name>
     <message>
         <source>Edit this report definition, or give the edit up (Ctrl+E begins)</source>
@@ -4544,10 +4923,6 @@ Datei, Datenbank öffnen... öffnet eine vorhandene; Datei, Neue Datenbank... le
         <translation>Die Berichtsdefinition neu lesen (F5)</translation>
     </message>
     <message>
-        <source>Re&amp;fresh</source>
-        <translation>A&amp;ktualisieren</translation>
-    </message>
-    <message>
         <source>Delete this report</source>
         <translation>Diesen Bericht löschen</translation>
     </message>
@@ -4610,6 +4985,10 @@ Datei, Datenbank öffnen... öffnet eine vorhandene; Datei, Neue Datenbank... le
     <message>
         <source>Unknown column [%1]</source>
         <translation>Unbekannte Spalte [%1]</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Aktualisieren</translation>
     </message>
 </context>
 <context>
@@ -4885,6 +5264,57 @@ Datei, Datenbank öffnen... öffnet eine vorhandene; Datei, Neue Datenbank... le
     <message>
         <source>Please select Value.</source>
         <translation>Bitte wählen Sie einen Wert.</translation>
+    </message>
+</context>
+<context>
+    <name>frmRptOption</name>
+    <message>
+        <source>Print Options</source>
+        <translation>Druckoptionen</translation>
+    </message>
+    <message>
+        <source>Report &amp;Title</source>
+        <translation>Berichts&amp;titel</translation>
+    </message>
+    <message>
+        <source>Report Title</source>
+        <translation>Berichtstitel</translation>
+    </message>
+    <message>
+        <source>Append Print &amp;Date/Time</source>
+        <translation>Druck&amp;datum und -zeit anfügen</translation>
+    </message>
+    <message>
+        <source>What to Print</source>
+        <translation>Was gedruckt wird</translation>
+    </message>
+    <message>
+        <source>&amp;Entire View</source>
+        <translation>&amp;Gesamte Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Selected row only</source>
+        <translation>&amp;Nur ausgewählte Zeile</translation>
+    </message>
+    <message>
+        <source>Page Orientation</source>
+        <translation>Seitenausrichtung</translation>
+    </message>
+    <message>
+        <source>&amp;Portrait</source>
+        <translation>&amp;Hochformat</translation>
+    </message>
+    <message>
+        <source>&amp;Landscape</source>
+        <translation>&amp;Querformat</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>

@@ -130,15 +130,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Attach &amp;File...</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Open the attachment with the program for it (Enter)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;View</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -247,6 +239,14 @@
     </message>
     <message>
         <source>Unable to rename &apos;%1&apos; to &apos;%2&apos;!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Atta&amp;ch File...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>View</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1139,6 +1139,21 @@ Please choose View, Options menu to check or change your Email options.</source>
     </message>
 </context>
 <context>
+    <name>Reindex</name>
+    <message>
+        <source>the file &apos;%1&apos; is missing; please re-install the program</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the index could not be copied to &apos;%1&apos;; the folder may be read-only or the disk full</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is open at another station</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ReportRun</name>
     <message>
         <source>Invalid table name found in the report column table!</source>
@@ -1590,6 +1605,28 @@ Please ask your administrator for the right to change the files in the data fold
     </message>
 </context>
 <context>
+    <name>clsDBBulk</name>
+    <message>
+        <source>Adding issues</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please wait...</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>clsDBUtil</name>
+    <message>
+        <source>No database is currently open. See File menu.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No Database Open</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>clsImportData</name>
     <message>
         <source>must be numeric.</source>
@@ -1964,10 +2001,6 @@ Please ask your administrator for the right to change the files in the data fold
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Ne&amp;w...</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Open the selected product or service (Enter)</source>
         <translation type="unfinished"></translation>
     </message>
@@ -2214,6 +2247,10 @@ Do you want to add this customer with the duplicate %2 anyways?</source>
         <source>Email:</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>New...</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>frmCustomerList</name>
@@ -2299,6 +2336,133 @@ Do you want to add this customer with the duplicate %2 anyways?</source>
     </message>
     <message>
         <source>All Customers</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>frmDBMaint</name>
+    <message>
+        <source>Database Maintenance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Data &amp;files:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Data files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Re-Index...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Build the index of the selected file anew from its rows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Chec&amp;k...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Look whether the selected file and its index are sound; changes nothing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This page of the manual (F1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>WARNING: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1. Backup your Database Files (See Help menu) before performing any maintenance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>2. Make sure no one is using the application before performing any maintenance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No data file selected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select a data file!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>You are about to Re-Index the following file:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This operation may take several minutes and requires exclusive access to data files. Do you want to continue?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Re-Index Data File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Indexing %1 ... Please wait...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The reason: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was changed. Close the database at all other stations and try again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The index as it was is kept in &apos;%1&apos;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 has been re-indexed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File Indexed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unable to index file: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File Indexing Failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Checking %1 ... Please wait...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 and its index are sound. There is nothing to do.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check Data File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The check of %1 found this:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The button Re-Index rebuilds the index here and now, if nobody else has the database open.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2705,10 +2869,6 @@ Do you want to add this customer with the duplicate %2 anyways?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Re&amp;fresh</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Delete this issue</source>
         <translation type="unfinished"></translation>
     </message>
@@ -2784,6 +2944,10 @@ Do you want to add this customer with the duplicate %2 anyways?</source>
     </message>
     <message>
         <source>Resolution Date:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Refresh</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -3070,10 +3234,6 @@ Please make a copy of the whole data folder, and restore the damaged file from y
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Re&amp;fresh</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Delete this issue template</source>
         <translation type="unfinished"></translation>
     </message>
@@ -3109,6 +3269,10 @@ Please make a copy of the whole data folder, and restore the damaged file from y
         <source>ISSUE TEMPLATE: %1
 
 </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Refresh</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -3681,6 +3845,26 @@ File, Open Database... opens one you have; File, New Database... creates one.</s
         <source>Email Options</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>&amp;Recent Databases</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Purge Old Issues Wizard...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Database &amp;Maintenance...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add Bulk Issues</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Purge Old Issues Wizard</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>frmMessage</name>
@@ -4066,10 +4250,6 @@ File, Open Database... opens one you have; File, New Database... creates one.</s
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Refres&amp;h</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Delete this record and its attachments</source>
         <translation type="unfinished"></translation>
     </message>
@@ -4129,6 +4309,10 @@ File, Open Database... opens one you have; File, New Database... creates one.</s
         <source>PRODUCT/SERVICE DETAILS
 
 </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Refresh</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -4344,6 +4528,201 @@ File, Open Database... opens one you have; File, New Database... creates one.</s
     </message>
 </context>
 <context>
+    <name>frmPurgeIssues</name>
+    <message>
+        <source>Purge (Delete) Old Issues Wizard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How to &amp;backup data?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What to copy, and where it lies</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>If you would like to continue to purge/delete old issues press &quot;Next &gt;&gt;&quot; button or press &quot;Cancel&quot; to quit...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Issue Submit &amp;Date:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Issue submit date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Calendar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose the date from a calendar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Issues submitted on that day or before it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Issue Status Criteria:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Issue status criteria</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Issues of any other status are left alone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Here&apos;s a preview of all issues that will be deleted...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Issues to delete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Press &quot;Purge Now&quot; to delete these issues or press cancel to quit...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open the selected issue</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Prin&amp;t</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print the list (Ctrl+P)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This page of the manual (F1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;&lt; &amp;Previous</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Next &gt;&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>BACK UP YOUR DATA FIRST! We strongly suggest that you backup your %1 database now, before you purge any old issues... Once you delete issues they cannot be recovered! </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Issue No.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Submit Date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Short Description</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Purge Now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Issues submitted on or before %1 with an issue status of &apos;%2&apos;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 issue(s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>  - Issue Submit Date must be entered.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>  - Issue Submit Date is not a valid date.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>  - Issue Status Criteria must be selected.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please correct the following errors before proceeding:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The issues could not be read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Displaying issues that meet the criteria. Please wait...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No issue meets the criteria.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The list was cancelled.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Currently, there are no issues to purge/delete that meet your criteria.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Are you sure you want to PERMANENTLY DELETE the displayed issues?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete Confirmation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Finish</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Deleting Issues</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please wait...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 issues have been deleted!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of the issues could not be deleted and remain. Run this wizard again with the same date and status to delete them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>frmReportDef</name>
     <message>
         <source>Edit this report definition, or give the edit up (Ctrl+E begins)</source>
@@ -4486,10 +4865,6 @@ File, Open Database... opens one you have; File, New Database... creates one.</s
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Re&amp;fresh</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Delete this report</source>
         <translation type="unfinished"></translation>
     </message>
@@ -4551,6 +4926,10 @@ File, Open Database... opens one you have; File, New Database... creates one.</s
     </message>
     <message>
         <source>Unknown column [%1]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Refresh</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -4826,6 +5205,57 @@ File, Open Database... opens one you have; File, New Database... creates one.</s
     </message>
     <message>
         <source>Please select Value.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>frmRptOption</name>
+    <message>
+        <source>Print Options</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Report &amp;Title</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Report Title</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Append Print &amp;Date/Time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What to Print</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Entire View</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Selected row only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Page Orientation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Portrait</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Landscape</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -7,10 +7,16 @@
 #include "db/SoleUse.h"
 #include "db/volume/RowAdder.h"
 
+#include <QCoreApplication>
+
 #include <string>
 
 namespace
 {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(clsDBBulk)
+};
 
 constexpr qint32 Issues = 1000000;
 constexpr qint32 RowsBetweenLooks = 10000;
@@ -50,8 +56,8 @@ void clsDB::AddBulkIssues()
         if (!rows)
             return;
         WaitDlg progress;
-        clsSystem::WaitDlgShow(progress, QStringLiteral("Adding issues"),
-                               QStringLiteral("Please wait..."), true, true);
+        clsSystem::WaitDlgShow(progress, Words::tr("Adding issues"), Words::tr("Please wait..."),
+                               true, true);
         for (qint32 number = 1; number <= Issues && addIssue(rows, number); ++number) {
             if (number % RowsBetweenLooks != 0)
                 continue;

@@ -5,6 +5,7 @@
 #include "db/SoleUse.h"
 #include "db/TableUse.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 
@@ -15,6 +16,10 @@ namespace maintenance
 
 namespace
 {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(Reindex)
+};
 
 // A name that is not taken yet: the path with a number behind.
 QString asidePath(const QString &path)
@@ -48,7 +53,7 @@ ReindexResult reindexTable(const clsDB &db, const clsDBFile &files)
     // The rows give the keys and the tags are known here, but a program folder without its
     // templates is not to be trusted with anything.
     if (!QFile::exists(files.indexSource)) {
-        result.reason = QStringLiteral("the file '%1' is missing; please re-install the program")
+        result.reason = Words::tr("the file '%1' is missing; please re-install the program")
                             .arg(QDir::toNativeSeparators(files.indexSource));
         return result;
     }
@@ -58,8 +63,8 @@ ReindexResult reindexTable(const clsDB &db, const clsDBFile &files)
     const QString aside = QFile::exists(index) ? asidePath(index) : QString();
     if (!aside.isEmpty() && !clsSystem::FileCopyFn(index, aside)) {
         clsSystem::DeleteFile(aside);
-        result.reason = QStringLiteral("the index could not be copied to '%1'; the folder may be "
-                                       "read-only or the disk full")
+        result.reason = Words::tr("the index could not be copied to '%1'; the folder may be "
+                                  "read-only or the disk full")
                             .arg(QDir::toNativeSeparators(aside));
         return result;
     }
@@ -73,7 +78,7 @@ ReindexResult reindexTable(const clsDB &db, const clsDBFile &files)
         result.outcome = ReindexOutcome::Done;
     } else if (code == d4locked || failure.kind == ErrorKind::Locked) {
         result.outcome = ReindexOutcome::InUse;
-        result.reason = QStringLiteral("it is open at another station");
+        result.reason = Words::tr("it is open at another station");
         clsSystem::DeleteFile(aside);
         result.kept.clear();
     } else {
