@@ -330,7 +330,7 @@ private:
     QStringList m_told; // paths and texts, while telling once
     norvane::engine::FileSystem *m_files = nullptr;
     StationWatch m_watch;
-    qint64 m_lastBeat = 0; // host().ticks()
+    qint64 m_lastBeat = 0;    // host().ticks()
     QString m_readOnlyReason; // empty: changes may be saved
     QString m_readOnlyNotice; // still to be told
     bool m_bIsOpen = false;

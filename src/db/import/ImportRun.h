@@ -1,6 +1,6 @@
 // Writes a checked file into the open database, one record a row, tables opened once for the
-// whole run. New customers go in two thousand at a time: all of them or, when their save fails, none.
-// Nothing stored is undone when rows fail, and the rows after them are tried all the same.
+// whole run. New customers go in two thousand at a time: all of them or, when their save fails,
+// none. Nothing stored is undone when rows fail, and the rows after them are tried all the same.
 #pragma once
 
 #include "common/base/clsSystem.h"
