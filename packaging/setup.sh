@@ -40,7 +40,7 @@ install_packages() {
     if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
         command -v cmake >/dev/null && return 0 # another system whose owner has set it up
         echo "This is no Debian or Ubuntu system. Please install a C++20 compiler, CMake, Ninja, Qt 6.4 or" >&2
-        echo "newer (base and svg) and GoogleTest by its own means, then start this again." >&2
+        echo "newer (base, svg and Linguist tools) and GoogleTest by its own means, then start this again." >&2
         return 1
     fi
     mapfile -t missing < <(missing_packages "$@")
