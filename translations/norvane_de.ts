@@ -4664,10 +4664,6 @@ Datei, Datenbank öffnen... öffnet eine vorhandene; Datei, Neue Datenbank... le
         <translation>Die Liste drucken (Strg+P)</translation>
     </message>
     <message>
-        <source>&amp;Help</source>
-        <translation>&amp;Hilfe</translation>
-    </message>
-    <message>
         <source>This page of the manual (F1)</source>
         <translation>Diese Seite des Handbuchs (F1)</translation>
     </message>
@@ -4778,6 +4774,10 @@ Datei, Datenbank öffnen... öffnet eine vorhandene; Datei, Neue Datenbank... le
     <message>
         <source>%1 of the issues could not be deleted and remain. Run this wizard again with the same date and status to delete them.</source>
         <translation>%1 der Vorgänge konnten nicht gelöscht werden und bleiben bestehen. Führen Sie diesen Assistenten mit demselben Datum und Status erneut aus, um sie zu löschen.</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
     </message>
 </context>
 <context>

@@ -4606,10 +4606,6 @@ File, Open Database... opens one you have; File, New Database... creates one.</s
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>This page of the manual (F1)</source>
         <translation type="unfinished"></translation>
     </message>
@@ -4719,6 +4715,10 @@ File, Open Database... opens one you have; File, New Database... creates one.</s
     </message>
     <message>
         <source>%1 of the issues could not be deleted and remain. Run this wizard again with the same date and status to delete them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Help</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

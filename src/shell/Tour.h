@@ -57,6 +57,7 @@ private:
     void addUser();
     void purgeIssues();
     void rebuildIndex();
+    void answerBox(int button, const char *picture); // a QDialogButtonBox::StandardButton
     void readHelp();
     void makeReport(); // TourReports.cpp
     void arrangeWindows();

@@ -11,10 +11,10 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDialog>
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
 
@@ -94,6 +94,17 @@ void Tour::addUser()
          QStringLiteral("the new user's first password is not the login name"));
 }
 
+// The next message box.
+void Tour::answerBox(int button, const char *picture)
+{
+    m_visitor->expect(QStringLiteral("QMessageBox"), [this, button, picture](QWidget *box) {
+        shoot(QLatin1String(picture));
+        box->findChild<QDialogButtonBox *>()
+            ->button(static_cast<QDialogButtonBox::StandardButton>(button))
+            ->click();
+    });
+}
+
 // Three closed issues of last year, made for this: the others are still needed.
 void Tour::purgeIssues()
 {
@@ -121,14 +132,8 @@ void Tour::purgeIssues()
     shoot(QStringLiteral("purge-criteria"));
     next->click();
     shoot(QStringLiteral("purge-preview"));
-    m_visitor->expect(QStringLiteral("QMessageBox"), [this](QWidget *question) {
-        shoot(QStringLiteral("purge-question"));
-        static_cast<QMessageBox *>(question)->button(QMessageBox::Yes)->click();
-    });
-    m_visitor->expect(QStringLiteral("QMessageBox"), [this](QWidget *told) {
-        shoot(QStringLiteral("purge-done"));
-        static_cast<QDialog *>(told)->accept();
-    });
+    answerBox(QDialogButtonBox::Yes, "purge-question");
+    answerBox(QDialogButtonBox::Ok, "purge-done");
     next->click();
     control<QPushButton>(wizard, "CancelButton")->click();
     need(gDB.GetRecCount(gDB.IssuesTable(), QStringLiteral("rowid")) == before,
@@ -140,16 +145,10 @@ void Tour::rebuildIndex()
     m_visitor->expect(QStringLiteral("frmDBMaint"), [this](QWidget *maintenance) {
         control<QListWidget>(maintenance, "lstDataFiles")->setCurrentRow(0);
         shoot(QStringLiteral("maintenance"));
-        const auto answer = [this](QMessageBox::StandardButton button, const char *picture) {
-            m_visitor->expect(QStringLiteral("QMessageBox"), [this, button, picture](QWidget *box) {
-                shoot(QLatin1String(picture));
-                static_cast<QMessageBox *>(box)->button(button)->click();
-            });
-        };
-        answer(QMessageBox::Ok, "maintenance-check");
+        answerBox(QDialogButtonBox::Ok, "maintenance-check");
         control<QPushButton>(maintenance, "CheckButton")->click();
-        answer(QMessageBox::Yes, "maintenance-question");
-        answer(QMessageBox::Ok, "maintenance-done");
+        answerBox(QDialogButtonBox::Yes, "maintenance-question");
+        answerBox(QDialogButtonBox::Ok, "maintenance-done");
         control<QPushButton>(maintenance, "IndexButton")->click();
         control<QPushButton>(maintenance, "CloseButton")->click();
     });
