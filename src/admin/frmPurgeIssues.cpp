@@ -39,6 +39,9 @@ frmPurgeIssues::frmPurgeIssues(const QString &backupAdvice, QWidget *parent)
     : FormWindow(parent), ui(std::make_unique<Ui::frmPurgeIssues>())
 {
     ui->setupUi(this);
+    QSizePolicy hint = ui->lblPurgeNow->sizePolicy();
+    hint.setRetainSizeWhenHidden(true); // the buttons beside it keep their size
+    ui->lblPurgeNow->setSizePolicy(hint);
     setTagText(Tag);
     setHelpTopic(help::PurgeIssues);
     const int size = style()->pixelMetric(QStyle::PM_LargeIconSize);
