@@ -46,8 +46,8 @@ protected:
     QStringList found() const
     {
         QStringList lines;
-        for (const maintenance::Finding &finding :
-             maintenance::FolderCheck(db.path()).run(schema::table(Table::Category)))
+        maintenance::FolderCheck check(db.path());
+        for (const maintenance::Finding &finding : check.run(schema::table(Table::Category)))
             lines += finding.file + u": " + finding.text;
         return lines;
     }

@@ -57,6 +57,13 @@ void *operator new(std::size_t size)
     return enginetest::memory::allocate(size);
 }
 
+void *operator new(std::size_t size, const std::nothrow_t &) noexcept
+try {
+    return enginetest::memory::allocate(size);
+} catch (const std::bad_alloc &) {
+    return nullptr;
+}
+
 void operator delete(void *block) noexcept
 {
     std::free(block);

@@ -194,7 +194,6 @@ private:
 
     const SessionSettings &m_settings;
     std::shared_ptr<TableFiles> m_files;
-    bool m_exclusive = false;
 
     std::vector<Byte> m_row;    // with pending changes
     std::vector<Byte> m_stored; // as it lies in the file, while m_changed
@@ -203,6 +202,9 @@ private:
     bool m_changed = false;
     bool m_behindLast = false; // on no row because a move ran past the end
     bool m_loadedLocked = false;
+    bool m_exclusive = false;
+    bool m_judges = true; // an entry that does not fit its row makes the index suspect
+    bool m_grouping = false;
     std::uint32_t m_rowStamp = 0;
     std::vector<Memo> m_memos; // one for each field, used for M fields
 
@@ -227,12 +229,8 @@ private:
     bool m_inPass = false;        // the current row is from there
     MemoFile::Ahead m_memosAhead; // texts of those rows, read after them
 
-    bool m_judges = true; // an entry that does not fit its row makes the index suspect
-
     std::vector<std::uint32_t> m_locks; // records, 0 for the append lock
-
-    bool m_grouping = false;
-    std::vector<Waiting> m_group;
+    std::vector<Waiting> m_group;       // while m_grouping
 };
 
 } // namespace norvane::engine
