@@ -210,7 +210,7 @@ int ExpressionParser::parseTerm()
     case TokenKind::End:
         return fail("it ends too early");
     default:
-        return fail("\"" + std::string(token.text) + "\" is out of place");
+        return fail(std::string("\"").append(token.text) + "\" is out of place");
     }
 }
 

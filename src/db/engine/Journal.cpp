@@ -203,7 +203,8 @@ std::vector<Byte> Journal::encode(std::uint64_t number, std::uint64_t salt, cons
     std::size_t length = kRecordHead;
     for (const Piece &piece : pieces)
         length += kPieceHead + 4 * piece.before.size() + piece.bytes.size();
-    std::vector<Byte> bytes(length);
+    std::vector<Byte> bytes;
+    bytes.resize(length); // given to the constructor, gcc at -O3 warns of an empty one
     putLe32(bytes.data(), kRecordMagic);
     putLe32(&bytes[4], static_cast<std::uint32_t>(length));
     putLe32(&bytes[12], static_cast<std::uint32_t>(pieces.size()));
