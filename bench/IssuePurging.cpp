@@ -34,10 +34,13 @@ bool addActions(const QList<qint32> &ids)
 {
     const SoleUse alone(gDB.CBEngine(), SoleUse::Locks::NotNeeded);
     volume::RowAdder rows(gDB, schema::Table::IssuesActions);
-    qint32 next = 1000000;
+    const QString actions = schema::table(schema::Table::IssuesActions).dataFile();
+    qint32 next = gDB.GetNextID(actions);
+    if (next <= 0)
+        return false;
     for (const qint32 id : ids) {
         for (const char *what : {"Called the customer", "Sent a technician"}) {
-            rows.begin(++next);
+            rows.begin(next++);
             rows.number("issueid", id);
             rows.text("desc", what);
             rows.memo("notes", "The customer was not in and will be called again tomorrow.");
@@ -45,7 +48,7 @@ bool addActions(const QList<qint32> &ids)
                 return false;
         }
     }
-    return true;
+    return gDB.GetNextID(actions) > 0; // behind the last row
 }
 
 void attach(qint32 id)

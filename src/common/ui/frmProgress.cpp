@@ -37,7 +37,8 @@ void frmProgress::Display()
 
 void frmProgress::setPercent(int percent)
 {
-    if (percent < 0 || percent > 100)
+    // Told for each of a million rows; painting the same again would take longer than the work.
+    if (percent < 0 || percent > 100 || percent == ui->pbar->value())
         return;
     ui->pbar->setValue(percent);
     ui->pbar->repaint();
