@@ -2566,7 +2566,7 @@ Möchten Sie den Kunden mit dem doppelten Wert in %2 trotzdem hinzufügen?</tran
         <translation>Wie eine Datei für diese Zeile aussieht (Leertaste)</translation>
     </message>
     <message>
-        <source>&amp;Import Now</source>
+        <source>Import &amp;Now</source>
         <translation>&amp;Jetzt importieren</translation>
     </message>
     <message>
@@ -4700,7 +4700,7 @@ Datei, Datenbank öffnen... öffnet eine vorhandene; Datei, Neue Datenbank... le
         <translation>Kurzbeschreibung</translation>
     </message>
     <message>
-        <source>&amp;Purge Now</source>
+        <source>Purge &amp;Now</source>
         <translation>&amp;Jetzt löschen</translation>
     </message>
     <message>

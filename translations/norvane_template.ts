@@ -2525,7 +2525,7 @@ Do you want to add this customer with the duplicate %2 anyways?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Import Now</source>
+        <source>Import &amp;Now</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -4642,7 +4642,7 @@ File, Open Database... opens one you have; File, New Database... creates one.</s
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Purge Now</source>
+        <source>Purge &amp;Now</source>
         <translation type="unfinished"></translation>
     </message>
     <message>

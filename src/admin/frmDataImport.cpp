@@ -92,7 +92,7 @@ void frmDataImport::DisplayFrame()
 {
     ui->pages->setCurrentIndex(m_step);
     ui->cmdPrevious->setEnabled(m_step != ChooseTarget);
-    ui->cmdNext->setText(m_step == LookAtRows ? tr("&Import Now") : tr("&Next >>"));
+    ui->cmdNext->setText(m_step == LookAtRows ? tr("Import &Now") : tr("&Next >>"));
     if (m_step != LookAtRows)
         clearPreviewGrid(ui->grdPreview);
     switch (m_step) {

@@ -106,7 +106,7 @@ void frmPurgeIssues::DisplayFrame()
 {
     ui->pages->setCurrentIndex(m_step);
     ui->cmdPrevious->setEnabled(m_step != BackUp);
-    ui->cmdNext->setText(m_step == LookAtIssues ? tr("&Purge Now") : tr("&Next >>"));
+    ui->cmdNext->setText(m_step == LookAtIssues ? tr("Purge &Now") : tr("&Next >>"));
     if (m_step == LookAtIssues) {
         ui->lblCriteria->setText(
             tr("Issues submitted on or before %1 with an issue status of '%2'")
