@@ -313,6 +313,7 @@ private:
     QString openingHelp() const;
     bool restoreTable(const QString &dir, const schema::TableInfo &table) const;
     bool buildMissingIndex(const QString &dir, const schema::TableInfo &table) const;
+    bool passLostMemos(const QString &dir, const schema::TableInfo &table) const;
 
     bool updateRow(const RecColl &record, Handle table, bool NoMsg);
     bool addRow(RecColl &record, Handle table);

@@ -163,6 +163,21 @@ bool clsDB::buildMissingIndex(const QString &dir, const schema::TableInfo &table
     return !fileMissing(dir, table.indexFile());
 }
 
+// Without this a row whose text went with the old file would show the next one that is stored.
+// Whoever has the table open by now did the same before; why else it does not open is told later.
+bool clsDB::passLostMemos(const QString &dir, const schema::TableInfo &table) const
+{
+    using namespace norvane::engine;
+    const Handle session = d4init_v(m_files);
+    expectOurTags(session);
+    code4accessMode(session, 1);
+    const Handle rows = d4open(session, existingFile(dir, table.dataFile()).toStdString());
+    const bool passed = rows <= 0 || d4passLostMemos(rows) == r4success;
+    d4close(rows);
+    d4initUndo(session);
+    return passed;
+}
+
 // The newer tables are copied from the templates when only they are missing, so a database from
 // before their time is upgraded on opening.
 bool clsDB::restoreTable(const QString &dir, const schema::TableInfo &table) const
@@ -170,6 +185,7 @@ bool clsDB::restoreTable(const QString &dir, const schema::TableInfo &table) con
     const QStringList names = table.files();
     const QStringList templates = table.templateFiles();
     const bool hasRows = !fileMissing(dir, table.dataFile());
+    const bool memosLost = hasRows && fileMissing(dir, table.memoFile());
     bool there = true;
     bool copied = false;
     for (qsizetype i = 0; i < names.size(); ++i) {
@@ -180,6 +196,7 @@ bool clsDB::restoreTable(const QString &dir, const schema::TableInfo &table) con
         copied = true;
     }
     there = there && (!copied || keepNames(dir));
+    there = there && (!memosLost || passLostMemos(dir, table));
     return there && (!fileMissing(dir, table.indexFile()) || buildMissingIndex(dir, table));
 }
 

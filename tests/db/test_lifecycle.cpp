@@ -107,6 +107,20 @@ TEST_F(Lifecycle, MissingNewerTablesComeFromTheTemplates)
     EXPECT_EQ(u"called"_s, db.stored(schema::Table::IssuesActions, action, u"desc"_s));
 }
 
+// A row whose text is gone with its file says so, and does not come to show another one's.
+TEST_F(Lifecycle, TextsOfALostMemoFileComeBackAsNothingElse)
+{
+    ASSERT_TRUE(gDB.OpenDB(db.path()));
+    const qint32 old = db.add(u"_issueaction"_s, {{"issueid", 5}, {"notes", u"the old text"_s}});
+    gDB.CloseDB();
+    remove(u"nvniactions.fpt"_s);
+    ASSERT_TRUE(gDB.OpenDB(db.path()));
+    const qint32 next = db.add(u"_issueaction"_s, {{"issueid", 5}, {"notes", u"a new text"_s}});
+    EXPECT_EQ(u"a new text"_s, db.stored(schema::Table::IssuesActions, next, u"notes"_s));
+    person.expect(u"nvniactions.fpt' is damaged"_s);
+    EXPECT_EQ(u""_s, db.stored(schema::Table::IssuesActions, old, u"notes"_s));
+}
+
 TEST_F(Lifecycle, OtherMissingFilesAreListedAndNothingIsRepaired)
 {
     remove(u"nvnuser.fpt"_s);

@@ -119,4 +119,9 @@ Code d4reindex(Handle table)
     return answerOf(table, [&](Table &rows) { return rows.reindex(); });
 }
 
+Code d4passLostMemos(Handle table)
+{
+    return answerOf(table, [](Table &rows) { return rows.files().passLostMemos(); });
+}
+
 } // namespace norvane::engine

@@ -138,6 +138,18 @@ std::string_view trimmed(std::string_view text)
     return last == std::string_view::npos ? std::string_view() : text.substr(0, last + 1);
 }
 
+std::optional<std::uint32_t> memoPointer(ByteView field)
+{
+    if (field.size() == 4)
+        return getLe32(field.data());
+    const std::string_view text = trimmed(asText(field));
+    std::uint32_t block = 0;
+    const auto result = std::from_chars(text.data(), text.data() + text.size(), block);
+    if (!text.empty() && (result.ec != std::errc() || result.ptr != text.data() + text.size()))
+        return std::nullopt;
+    return block;
+}
+
 std::string fieldProblem(const FieldDef &field, ByteView row)
 {
     const std::string_view text = asText(row.subspan(field.offset, field.length));

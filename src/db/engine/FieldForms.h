@@ -26,6 +26,10 @@ bool isDate(std::string_view text);
 
 std::string_view trimmed(std::string_view text);
 
+// The block where a memo field's text begins, 0 when it has none; nothing when the field's bytes
+// are no pointer (docs/memo-format.md).
+std::optional<std::uint32_t> memoPointer(ByteView field);
+
 // What is wrong with the stored form of a field; empty when it is sound.
 std::string fieldProblem(const FieldDef &field, ByteView row);
 

@@ -169,6 +169,21 @@ Result<std::uint32_t> MemoFile::endBlock()
     return static_cast<std::uint32_t>(blocksFor(*size));
 }
 
+Status MemoFile::passOver(std::uint32_t block)
+{
+    const Result<std::uint32_t> end = endBlock();
+    if (!end.ok())
+        return end.error();
+    const std::uint64_t behind = (std::uint64_t{block} + 1) * m_blockSize;
+    if (block < *end || behind >= kLockByte) // a pointer into no file that can be is no lost text
+        return {};
+    std::array<Byte, 4> next{};
+    putBe32(next.data(), block + 1);
+    if (Status status = m_file->resize(behind); !status.ok())
+        return status;
+    return m_file->write(0, next);
+}
+
 Result<MemoFile::Placed> MemoFile::place(const std::vector<std::string_view> &texts)
 {
     const Result<std::uint32_t> end = endBlock();

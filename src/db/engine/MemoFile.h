@@ -42,6 +42,8 @@ public:
     Result<Placed> place(const std::vector<std::string_view> &texts);
     // The first block behind the bytes of the file, whatever the header counts.
     Result<std::uint32_t> endBlock();
+    // The file ends behind that block afterwards, its header too; what is added are zeros.
+    Status passOver(std::uint32_t block);
 
     // Where a text lies, for the full check.
     struct Extent {

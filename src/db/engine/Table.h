@@ -187,7 +187,6 @@ private:
 
     // TableFields.cpp
     Status putField(int field, std::string_view text);
-    std::optional<std::uint32_t> memoBlock(int field) const;
     void putMemoBlock(int field, std::uint32_t block);
     void blankField(const FieldDef &field);
     void forgetMemos();

@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 
 namespace norvane::engine
 {
@@ -57,18 +56,6 @@ void checkHeader(TableFiles &files, Findings &findings)
         add(findings, Place::Header, "the header's date of change is no date");
 }
 
-// Block number of a memo field, 0 for none. REQUIRES: a sound field.
-std::uint32_t blockOf(const FieldDef &field, ByteView row)
-{
-    const ByteView bytes = row.subspan(field.offset, field.length);
-    if (field.length == 4)
-        return getLe32(bytes.data());
-    const std::string_view text = trimmed(asText(bytes));
-    std::uint32_t block = 0;
-    const auto result = std::from_chars(text.data(), text.data() + text.size(), block);
-    return result.ec == std::errc::result_out_of_range ? UINT32_MAX : block; // in no file
-}
-
 struct MemoUse {
     MemoFile::Extent extent;
     std::string owner;
@@ -84,7 +71,8 @@ struct Memos {
 void checkMemoPointer(Memos &memos, const FieldDef &field, ByteView row, const std::string &where,
                       Findings &findings)
 {
-    const std::uint32_t block = blockOf(field, row);
+    const std::uint32_t block =
+        memoPointer(row.subspan(field.offset, field.length)).value_or(UINT32_MAX); // in no file
     if (block == 0)
         return;
     const Result<MemoFile::Extent> extent = memos.file->extentOf(block, memos.size);

@@ -4,7 +4,6 @@
 #include "db/engine/Table.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <limits>
 
@@ -139,25 +138,6 @@ Status Table::assignText(int field, std::string_view text)
 
 // ---- memos
 
-// Where the field's text begins, 0 when it has none; nothing when the bytes are no pointer.
-std::optional<std::uint32_t> Table::memoBlock(int field) const
-{
-    const ByteView bytes = fieldBytes(field);
-    if (bytes.size() == 4)
-        return getLe32(bytes.data());
-    const char *from = asText(bytes).data();
-    const char *const end = from + bytes.size();
-    while (from != end && *from == ' ')
-        ++from;
-    if (from == end)
-        return 0U;
-    std::uint32_t block = 0;
-    const auto result = std::from_chars(from, end, block);
-    if (result.ec != std::errc() || std::any_of(result.ptr, end, [](char c) { return c != ' '; }))
-        return std::nullopt;
-    return block;
-}
-
 void Table::putMemoBlock(int field, std::uint32_t block)
 {
     const FieldDef &def = layout().fields[static_cast<std::size_t>(field)];
@@ -184,7 +164,7 @@ Result<const std::string *> Table::memo(int field)
     Memo &memo = m_memos[static_cast<std::size_t>(field)];
     if (memo.known)
         return &memo.text;
-    const std::optional<std::uint32_t> block = memoBlock(field);
+    const std::optional<std::uint32_t> block = memoPointer(fieldBytes(field));
     if (!block)
         return Error{ErrorKind::Damaged, m_files->path(), "a memo pointer is no number", m_recNo};
     memo.text.clear();

@@ -81,6 +81,9 @@ public:
     Status mendEnds();
     Status mendTags();
     Status mendMemoHeader();
+    // The memo file is a new one in the place of a lost one: blocks that rows lead to stay free of
+    // new texts (docs/memo-format.md, rule 9). REQUIRES: exclusive().
+    Status passLostMemos();
     // Reads rows into `into`; fewer bytes than asked for are Damaged.
     Status readRows(std::uint32_t first, ByteSpan into);
     // Refuses a table without room for so many more rows or with a wrong count. REQUIRES: a fresh

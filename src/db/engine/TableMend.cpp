@@ -1,5 +1,6 @@
 // Putting right what does not fit the rows: the row count, the ends of files, and the index.
 #include "db/engine/Cleanup.h"
+#include "db/engine/FieldForms.h"
 #include "db/engine/KeepAside.h"
 #include "db/engine/LockPlaces.h"
 #include "db/engine/TableFiles.h"
@@ -219,6 +220,26 @@ Status TableFiles::mendMemoHeader()
     std::array<Byte, 4> next{};
     putBe32(next.data(), *end);
     return m_memo->file().write(0, next);
+}
+
+Status TableFiles::passLostMemos()
+{
+    if (!m_memo)
+        return {};
+    const RowSource rows = allRows();
+    std::uint32_t record = 0;
+    ByteView row;
+    Result<bool> more = rows.next(record, row);
+    for (; more.ok() && *more; more = rows.next(record, row)) {
+        for (const FieldDef &field : layout().fields) {
+            if (field.type != 'M')
+                continue;
+            const auto block = memoPointer(row.subspan(field.offset, field.length)).value_or(0);
+            if (Status status = m_memo->passOver(block); !status.ok())
+                return status;
+        }
+    }
+    return more.ok() ? m_memo->file().sync() : more.error();
 }
 
 Status TableFiles::mendAfter(const Error &error)

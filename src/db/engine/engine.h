@@ -102,6 +102,9 @@ Code d4groupBegin(Handle table);
 Code d4groupEnd(Handle table);
 Code d4groupDrop(Handle table);
 Code d4reindex(Handle table); // REQUIRES: opened exclusively
+// An empty memo file was put in the place of a lost one: no text to come goes where rows still
+// lead to a lost one. REQUIRES: opened exclusively.
+Code d4passLostMemos(Handle table);
 
 // ---- fields of the current row
 std::int32_t f4long(Handle field);
