@@ -22,6 +22,7 @@ std::vector<std::uint32_t> recordsOf(TableUse &rows, const QList<qint32> &keys)
             records.push_back(d4recNo(rows.handle()));
     }
     std::sort(records.begin(), records.end());
+    records.erase(std::unique(records.begin(), records.end()), records.end());
     return records;
 }
 
@@ -51,9 +52,10 @@ PurgeResult IssuePurge::DeleteIssues(const QList<qint32> &ids, const Progress &p
         const TableUse actions(m_db, m_db.IssuesActionsTable());
         if (!actions)
             return;
-        for (qint32 done = 0; done < all;) {
+        for (qint32 done = 0; done < all && !m_db.IsReadOnly();) {
             const QList<qint32> some = ids.mid(done, Together);
-            const QList<qint32> bare = deleteWhatBelongsTo(some, actions.handle());
+            const QList<qint32> bare =
+                deleteWhatBelongsTo(some, actions.handle(), [&] { progress(done, all); });
             deleteTogether(issues.handle(), QStringLiteral("rowid"), bare);
             for (const qint32 id : some) {
                 if (bare.contains(id) && m_db.DeleteRecord(id, m_db.IssuesTable(), issues.handle()))
@@ -67,16 +69,21 @@ PurgeResult IssuePurge::DeleteIssues(const QList<qint32> &ids, const Progress &p
 }
 
 // Those issues of which nothing is left but themselves.
-QList<qint32> IssuePurge::deleteWhatBelongsTo(const QList<qint32> &ids, clsDB::Handle actions)
+QList<qint32> IssuePurge::deleteWhatBelongsTo(const QList<qint32> &ids, clsDB::Handle actions,
+                                              const std::function<void()> &goOn)
 {
     const QString tag = QStringLiteral("issueid");
     deleteTogether(actions, tag, ids);
     QList<qint32> bare;
     for (const qint32 id : ids) {
+        goOn();
+        if (m_db.IsReadOnly())
+            return {};
         if (m_db.DeleteAllRecords(id, m_db.IssuesActionsTable(), tag, actions) &&
             m_db.DeleteAttachments(id, QStringLiteral("_i")))
             bare.append(id);
     }
+    deleteTogether(actions, tag, bare); // what another station added to them meanwhile
     return bare;
 }
 
@@ -90,7 +97,7 @@ void IssuePurge::deleteTogether(clsDB::Handle table, const QString &tag, const Q
     const std::vector<std::uint32_t> records = recordsOf(rows, keys);
     SaveGroup group(table);
     {
-        const LockAttempts atOnce(m_db.CBEngine(), 1);
+        const LockAttempts atOnce(m_db.CBEngine(), 0);
         for (const std::uint32_t record : records)
             deleteWaiting(table, record);
     }

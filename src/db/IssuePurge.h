@@ -17,7 +17,7 @@ struct PurgeResult {
 class IssuePurge
 {
 public:
-    // Called behind each issue with the number of those done and of all.
+    // Called now and then, and behind each issue, with the number of those done and of all.
     using Progress = std::function<void(qint32 done, qint32 all)>;
 
     explicit IssuePurge(clsDB &db) : m_db(db) {}
@@ -27,7 +27,8 @@ public:
     PurgeResult DeleteIssues(const QList<qint32> &ids, const Progress &progress);
 
 private:
-    QList<qint32> deleteWhatBelongsTo(const QList<qint32> &ids, clsDB::Handle actions);
+    QList<qint32> deleteWhatBelongsTo(const QList<qint32> &ids, clsDB::Handle actions,
+                                      const std::function<void()> &goOn);
     void deleteTogether(clsDB::Handle table, const QString &tag, const QList<qint32> &keys);
 
     clsDB &m_db;

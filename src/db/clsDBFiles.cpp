@@ -46,6 +46,13 @@ bool fileMissing(const QString &dir, const QString &name)
     return existingFile(dir, name).isEmpty();
 }
 
+bool hasNoMemos(const QString &dir, const schema::TableInfo &table)
+{
+    constexpr qint64 headerBytes = 512;
+    const QString file = existingFile(dir, table.memoFile());
+    return file.isEmpty() || QFileInfo(file).size() <= headerBytes;
+}
+
 Failure notCreated(const QString &path)
 {
     return {PathAccess, app::title(),
@@ -163,14 +170,13 @@ bool clsDB::buildMissingIndex(const QString &dir, const schema::TableInfo &table
     return !fileMissing(dir, table.indexFile());
 }
 
-// Without this a row whose text went with the old file would show the next one that is stored.
-// Whoever has the table open by now did the same before; why else it does not open is told later.
+// Without this a row whose text went with the old file would show the next one that is stored. A
+// table that does not open is told of later.
 bool clsDB::passLostMemos(const QString &dir, const schema::TableInfo &table) const
 {
     using namespace norvane::engine;
     const Handle session = d4init_v(m_files);
     expectOurTags(session);
-    code4accessMode(session, 1);
     const Handle rows = d4open(session, existingFile(dir, table.dataFile()).toStdString());
     const bool passed = rows <= 0 || d4passLostMemos(rows) == r4success;
     d4close(rows);
@@ -185,7 +191,8 @@ bool clsDB::restoreTable(const QString &dir, const schema::TableInfo &table) con
     const QStringList names = table.files();
     const QStringList templates = table.templateFiles();
     const bool hasRows = !fileMissing(dir, table.dataFile());
-    const bool memosLost = hasRows && fileMissing(dir, table.memoFile());
+    // Or empty: whoever made it anew may have died before the texts were passed over.
+    const bool memosLost = hasRows && table.hasMemo && hasNoMemos(dir, table);
     bool there = true;
     bool copied = false;
     for (qsizetype i = 0; i < names.size(); ++i) {
@@ -196,7 +203,7 @@ bool clsDB::restoreTable(const QString &dir, const schema::TableInfo &table) con
         copied = true;
     }
     there = there && (!copied || keepNames(dir));
-    there = there && (!memosLost || passLostMemos(dir, table));
+    there = there && (!memosLost || passLostMemos(dir, table) || !copied);
     return there && (!fileMissing(dir, table.indexFile()) || buildMissingIndex(dir, table));
 }
 

@@ -109,9 +109,12 @@ void frmCustomer::connectLists()
     auto *insert = new QShortcut(Qt::Key_Insert, m_ui->tabs);
     insert->setContext(Qt::WidgetWithChildrenShortcut);
     connect(insert, &QShortcut::activated, this, [this] {
-        for (QPushButton *button : {m_ui->cmdNewPS, m_ui->cmdNewIssue}) {
-            if (button->isVisible())
-                button->click();
+        for (const auto &[button, list] : {std::pair{m_ui->cmdNewPS, m_ui->lvPS},
+                                           std::pair{m_ui->cmdNewIssue, m_ui->lvIssues}}) {
+            if (!button->isVisible())
+                continue;
+            list->setFocus(); // where the person comes back to, the new row selected
+            button->click();
         }
     });
 }

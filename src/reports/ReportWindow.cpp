@@ -9,6 +9,7 @@
 #include "common/ui/GridSaving.h"
 #include "common/ui/PrintDoor.h"
 #include "common/ui/Printing.h"
+#include "reports/PaperColumns.h"
 #include "reports/ReportModel.h"
 #include "ui_ReportWindow.h"
 
@@ -21,32 +22,11 @@ namespace
 
 constexpr int kMargin = 720; // twips
 
-// Columns wider than their share of the page give way first, so that the narrow ones keep all of
-// their texts.
-QList<int> widthsWithin(const QList<int> &widths, int room)
-{
-    QList<int> narrowFirst = widths;
-    std::sort(narrowFirst.begin(), narrowFirst.end());
-    int most = room;
-    for (qsizetype at = 0; at < narrowFirst.size(); ++at) {
-        most = room / static_cast<int>(narrowFirst.size() - at);
-        if (narrowFirst[at] > most)
-            break;
-        room -= narrowFirst[at];
-        most = narrowFirst[at]; // of those so far; the last one is the widest
-    }
-    QList<int> fitted;
-    for (const int width : widths)
-        fitted.append(std::min(width, most));
-    return fitted;
-}
-
 PrintedTable printed(const ReportGrid &grid, const QPagedPaintDevice &device)
 {
     const int dots = grid.logicalDpiX();
     const qreal points = device.pageLayout().fullRect(QPageLayout::Point).width();
     const int room = static_cast<int>(points * dots / 72) - 2 * kMargin * dots / 1440;
-    const int between = 2 * grid.fontMetrics().averageCharWidth();
     const ReportTable &table = grid.report().table();
     PrintedTable printed{.headings = {},
                          .widths = {},
@@ -59,9 +39,10 @@ PrintedTable printed(const ReportGrid &grid, const QPagedPaintDevice &device)
                          .font = grid.font()};
     for (std::size_t column = 0; column < table.columns.size(); ++column) {
         printed.headings.append(table.columns[column].heading);
-        printed.widths.append(grid.shownWidth(static_cast<int>(column)) + between);
+        printed.widths.append(grid.shownWidth(static_cast<int>(column)) +
+                              betweenColumns(grid.font()));
     }
-    printed.widths = widthsWithin(printed.widths, room);
+    printed.widths = paperWidths(table, grid.font(), printed.widths, room);
     return printed;
 }
 

@@ -76,11 +76,12 @@ TEST_F(IssuePurging, TakesWhatBelongsToTheIssuesAndNothingElse)
     const PurgeResult result =
         IssuePurge(gDB).DeleteIssues({gone, 99999, edited}, [&steps](qint32 done, qint32 all) {
             EXPECT_EQ(all, 3);
-            steps.push_back(done);
+            if (steps.empty() || steps.back() != done)
+                steps.push_back(done);
         });
     EXPECT_EQ(result.deleted, 3) << "one that is gone already counts as deleted";
     EXPECT_EQ(result.remaining, 0);
-    EXPECT_EQ(steps, (std::vector<qint32>{1, 2, 3}));
+    EXPECT_EQ(steps, (std::vector<qint32>{0, 1, 2, 3}));
     EXPECT_EQ(issues(), QSet<qint32>{kept});
     EXPECT_EQ(values(Table::IssuesActions, "issueid"), QSet<qint32>{kept});
     EXPECT_TRUE(QFile::exists(gDB.GetAttachmentSubDir(kept, u"_i"_s) + u"/note.txt"));

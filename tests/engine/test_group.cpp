@@ -115,4 +115,26 @@ TEST_F(Group, ThatGetsNoAppendLockStoresNothing)
     EXPECT_EQ(findings(m_path), "");
 }
 
+TEST_F(Group, ASessionForReadingOnlyStoresNone)
+{
+    d4groupBegin(m_table);
+    change(3, "Changed");
+    ASSERT_EQ(addPerson(m_table, 6, "New", "a text"), r4success);
+    code4readOnly(m_session, 1);
+    EXPECT_NE(d4groupEnd(m_table), r4success);
+    EXPECT_EQ(lastError(m_session).kind, ErrorKind::ReadOnly);
+    EXPECT_EQ(nameOf(m_table, 3), "Name 3");
+    EXPECT_EQ(nameOf(m_other, 6), "");
+}
+
+TEST_F(Group, TakesTheRowAtHandAlong)
+{
+    d4groupBegin(m_table);
+    ASSERT_EQ(findPerson(m_table, 3), r4success);
+    ASSERT_EQ(d4lock(m_table, d4recNo(m_table)), r4success);
+    assign(m_table, "name", "Changed");
+    ASSERT_EQ(d4groupEnd(m_table), r4success);
+    EXPECT_EQ(nameOf(m_other, 3), "Changed");
+}
+
 } // namespace

@@ -28,9 +28,10 @@ struct Named {
 class SystemFaults : public SavedFolder, public testing::WithParamInterface<Named>
 {
 protected:
-    // `work` in a session of its own, with one call after the other failing.
+    // `work` in a session of its own, with one call after the other failing. `held`: it has the
+    // table open before and goes on with what it read, else every work opens it anew.
     void failEach(bool withJournal, const People &after,
-                  const std::function<bool(const TestSession &)> &work)
+                  const std::function<bool(const TestSession &)> &work, bool held = false)
     {
         const std::size_t descriptors = openFiles();
         for (int call = 1;; call += matrixLength(2, 1, 1)) {
@@ -42,6 +43,9 @@ protected:
             {
                 const TestSession session;
                 code4durability(session, "full");
+                if (held) {
+                    ASSERT_GT(d4open(session, m_path), 0);
+                }
                 failing::at(call, GetParam().fault);
                 done = work(session);
                 failed = failing::stop();
@@ -74,6 +78,22 @@ TEST_P(SystemFaults, ASave)
             return performSaves(session, m_path, {save}) == 1;
         });
     }
+}
+
+TEST_P(SystemFaults, AGroup)
+{
+    Save one = insertOf(1, "another text");
+    one.kind = Save::Kind::Update;
+    Save two = insertOf(2, std::string(700, 'l'));
+    two.kind = Save::Kind::Update;
+    two.person.name = "Another";
+    const Save group = groupOf({insertOf(4, "a text"), one, two});
+    People after = m_people;
+    note(after, group);
+    const auto work = [&](const TestSession &session) {
+        return performSaves(session, m_path, {group}) == 1;
+    };
+    failEach(true, after, work, true);
 }
 
 TEST_P(SystemFaults, AnIndexBuiltAnew)

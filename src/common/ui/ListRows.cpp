@@ -121,22 +121,27 @@ const char *ListRows::store(const QString &key, const QStringList &texts)
 void ListRows::append(const QString &key, const QStringList &texts)
 {
     m_rows.push_back(store(key, texts));
+    ++m_version;
 }
 
 void ListRows::insert(int row, const QString &key, const QStringList &texts)
 {
     m_rows.insert(m_rows.begin() + row, store(key, texts));
+    ++m_version;
 }
 
 // What the row held stays until the list is emptied.
 void ListRows::removeAt(int row)
 {
     m_rows.erase(m_rows.begin() + row);
+    ++m_version;
 }
 
 void ListRows::clear()
 {
+    const unsigned version = m_version;
     *this = ListRows();
+    m_version = version + 1;
 }
 
 void ListRows::setText(int row, int column, const QString &text)
@@ -195,4 +200,5 @@ void ListRows::arrange(const std::vector<std::uint32_t> &order)
     for (const std::uint32_t row : order)
         arranged.push_back(m_rows[row]);
     m_rows = std::move(arranged);
+    ++m_version;
 }

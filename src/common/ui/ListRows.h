@@ -15,6 +15,8 @@ class ListRows
 {
 public:
     int count() const { return static_cast<int>(m_rows.size()); }
+    // Moved by every change but setText(): places and keys known before are no longer good.
+    unsigned version() const { return m_version; }
     void append(const QString &key, const QStringList &texts);
     void insert(int row, const QString &key, const QStringList &texts);
     void removeAt(int row);
@@ -38,4 +40,5 @@ private:
     std::vector<std::unique_ptr<char[]>> m_blocks;
     std::size_t m_blockSize = 0;
     std::size_t m_used = 0; // of the last block
+    unsigned m_version = 0;
 };

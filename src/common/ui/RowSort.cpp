@@ -59,7 +59,10 @@ private:
 
     void step()
     {
-        if (++m_steps % StepsBetweenQuestions == 0 && !m_goOn())
+        if (++m_steps % StepsBetweenQuestions != 0)
+            return;
+        // Events go through meanwhile, and with them what fills the list anew.
+        if (!m_goOn() || m_rows.version() != m_version)
             throw Stopped();
     }
 
@@ -99,6 +102,7 @@ private:
     }
 
     const ListRows &m_rows;
+    const unsigned m_version = m_rows.version();
     const int m_column;
     const bool m_descending;
     const TextOrder &m_texts;

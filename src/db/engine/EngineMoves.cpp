@@ -121,7 +121,7 @@ Code d4reindex(Handle table)
 
 Code d4passLostMemos(Handle table)
 {
-    return answerOf(table, [](Table &rows) { return rows.files().passLostMemos(); });
+    return answerOf(table, [](Table &rows) { return rows.passLostMemos(); });
 }
 
 } // namespace norvane::engine

@@ -174,14 +174,18 @@ Status MemoFile::passOver(std::uint32_t block)
     const Result<std::uint32_t> end = endBlock();
     if (!end.ok())
         return end.error();
-    const std::uint64_t behind = (std::uint64_t{block} + 1) * m_blockSize;
-    if (block < *end || behind >= kLockByte) // a pointer into no file that can be is no lost text
+    if (block < *end)
         return {};
     std::array<Byte, 4> next{};
     putBe32(next.data(), block + 1);
-    if (Status status = m_file->resize(behind); !status.ok())
+    if (Status status = m_file->resize((std::uint64_t{block} + 1) * m_blockSize); !status.ok())
         return status;
     return m_file->write(0, next);
+}
+
+bool MemoFile::mayLead(std::uint32_t block) const
+{
+    return std::uint64_t{block} * m_blockSize < kMostCut;
 }
 
 Result<MemoFile::Placed> MemoFile::place(const std::vector<std::string_view> &texts)

@@ -44,6 +44,9 @@ public:
     Result<std::uint32_t> endBlock();
     // The file ends behind that block afterwards, its header too; what is added are zeros.
     Status passOver(std::uint32_t block);
+    // Whether a text that is gone may have been there: not further off than is made up for.
+    // REQUIRES: something was asked of the file before.
+    bool mayLead(std::uint32_t block) const;
 
     // Where a text lies, for the full check.
     struct Extent {

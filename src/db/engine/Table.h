@@ -76,6 +76,8 @@ public:
     Status endGroup();
     Status dropGroup();
 
+    Status passLostMemos(); // see TableFiles
+
     // ---- fields (TableFields.cpp); `field` is a position in the layout
     ByteView fieldBytes(int field) const;
     double number(int field) const;

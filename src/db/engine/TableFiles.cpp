@@ -265,6 +265,8 @@ Status TableFiles::mayWrite()
 {
     if (Status status = refuseReader(); !status.ok())
         return status;
+    if (m_settings.readOnly) // since the table was opened
+        return Error{ErrorKind::ReadOnly, path(), "the session is for reading only"};
     return m_damage ? Status(m_damage) : Status();
 }
 

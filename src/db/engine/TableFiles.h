@@ -82,7 +82,7 @@ public:
     Status mendTags();
     Status mendMemoHeader();
     // The memo file is a new one in the place of a lost one: blocks that rows lead to stay free of
-    // new texts (docs/memo-format.md, rule 9). REQUIRES: exclusive().
+    // new texts (docs/memo-format.md, rule 9). REQUIRES: the index lock for writing.
     Status passLostMemos();
     // Reads rows into `into`; fewer bytes than asked for are Damaged.
     Status readRows(std::uint32_t first, ByteSpan into);

@@ -26,7 +26,7 @@ void Table::addToGroup()
     std::vector<std::pair<int, std::string>> texts;
     for (std::size_t i = 0; i < m_memos.size(); ++i) {
         if (m_memos[i].changed)
-            texts.emplace_back(static_cast<int>(i), std::move(m_memos[i].text));
+            texts.emplace_back(static_cast<int>(i), m_memos[i].text);
     }
     m_group.push_back({m_recNo, m_row, std::move(texts)});
     leaveRow();
@@ -34,14 +34,17 @@ void Table::addToGroup()
 
 Status Table::endGroup()
 {
+    Status status = storeForSure(); // the row at hand waits with the others
     m_grouping = false;
     std::vector<Waiting> rows = std::exchange(m_group, {});
     Cleanup letGo([this] { (void)unlockAll(); });
+    if (!status.ok())
+        return status;
     if (rows.empty())
         return {};
     leaveRow();
     std::stable_partition(rows.begin(), rows.end(), [](const Waiting &row) { return row.isNew(); });
-    Status status = storeGroup(rows);
+    status = storeGroup(rows);
     if (!status.ok() && m_files->isIndexDamage(status.error())) {
         m_batchTag = -1;
         if (m_files->mendAfter(status.error()).ok() && m_files->mayWrite().ok())
@@ -58,11 +61,20 @@ Status Table::dropGroup()
     return unlockAll();
 }
 
+Status Table::passLostMemos()
+{
+    TableFiles::IndexLock lock;
+    Status status = lock.take(*m_files, LockMode::Exclusive, m_settings.patience);
+    return status.ok() ? m_files->passLostMemos() : status;
+}
+
 Status Table::storeGroup(const std::vector<Waiting> &rows)
 {
     const auto added = static_cast<std::uint32_t>(
         std::count_if(rows.begin(), rows.end(), [](const Waiting &row) { return row.isNew(); }));
-    Status status = added > 0 ? lock(0) : Status();
+    Status status = m_files->mayWrite(); // it may have become wrong since the rows were locked
+    if (status.ok() && added > 0)
+        status = lock(0);
     if (status.ok() && added > 0)
         status = m_files->checkRoom(added);
     if (!status.ok())
@@ -71,7 +83,11 @@ Status Table::storeGroup(const std::vector<Waiting> &rows)
     status = lock.take(*m_files, LockMode::Exclusive, m_settings.patience);
     if (status.ok())
         status = m_files->refreshCount(); // others may have finished a dead station's append
-    return status.ok() ? storeGroupLocked(rows) : status;
+    if (status.ok())
+        status = storeGroupLocked(rows);
+    if (!status.ok())
+        (void)m_files->dropIndexChanges(); // those of the rows before the one that failed
+    return status;
 }
 
 Status Table::storeGroupLocked(const std::vector<Waiting> &rows)

@@ -2,6 +2,7 @@
 #include "db/engine/TableJournal.h"
 
 #include "db/engine/Crc32c.h"
+#include "db/engine/LockPlaces.h"
 
 #include <algorithm>
 #include <random>
@@ -13,6 +14,8 @@ namespace
 {
 
 constexpr std::uint64_t kFull = kJournalSize / 4 * 3;
+// Bytes; with so many the journal still ends below the lock bytes.
+constexpr std::uint64_t kMostInSave = kLockByte / 2;
 constexpr std::uint64_t kIndexCounter = 8; // place in the index header, high byte first
 
 std::uint64_t newSalt()
@@ -184,6 +187,11 @@ Status TableJournal::commit(Pieces &pieces, Durability durability, bool &committ
         return status;
     if (Status status = noteOthersWrites(); !status.ok())
         return status;
+    std::uint64_t bytes = 0;
+    for (const Piece &piece : pieces)
+        bytes += piece.bytes.size();
+    if (bytes > kMostInSave)
+        return Error{ErrorKind::TooLarge, m_journal.path(), "too much for one save"};
     if (Status status = captureBefore(pieces); !status.ok())
         return status;
     const std::uint64_t number = m_head.applied + 1;

@@ -226,6 +226,9 @@ Status TableFiles::passLostMemos()
 {
     if (!m_memo)
         return {};
+    if (const Result<std::uint32_t> end = m_memo->endBlock(); !end.ok())
+        return end.error();
+    std::uint32_t last = 0;
     const RowSource rows = allRows();
     std::uint32_t record = 0;
     ByteView row;
@@ -235,11 +238,14 @@ Status TableFiles::passLostMemos()
             if (field.type != 'M')
                 continue;
             const auto block = memoPointer(row.subspan(field.offset, field.length)).value_or(0);
-            if (Status status = m_memo->passOver(block); !status.ok())
-                return status;
+            if (m_memo->mayLead(block))
+                last = std::max(last, block);
         }
     }
-    return more.ok() ? m_memo->file().sync() : more.error();
+    if (!more.ok())
+        return more.error();
+    Status status = m_memo->passOver(last);
+    return status.ok() ? m_memo->file().sync() : status;
 }
 
 Status TableFiles::mendAfter(const Error &error)

@@ -103,7 +103,7 @@ Code d4groupEnd(Handle table);
 Code d4groupDrop(Handle table);
 Code d4reindex(Handle table); // REQUIRES: opened exclusively
 // An empty memo file was put in the place of a lost one: no text to come goes where rows still
-// lead to a lost one. REQUIRES: opened exclusively.
+// lead to a lost one, not even behind the next 64 MB. Others may have the table open.
 Code d4passLostMemos(Handle table);
 
 // ---- fields of the current row

@@ -21,6 +21,9 @@ struct Words {
 
 // Others wait for a group as long as for a few saves.
 constexpr qint32 rowsInGroup = 2000;
+constexpr qsizetype lettersInGroup = 4 << 20;
+// A group cannot be tried again: others may hold the table for long, and only a dead one longer.
+constexpr int attemptsAtGroup = 60; // seconds
 
 const clsImportColDef *columnNamed(const QString &heading, const clsImportColDefs &columns)
 {
@@ -102,6 +105,8 @@ bool ImportRun::importRows(const QString &path, const WaitDlg &progress)
     SaveGroup group(m_customers);
     bool good = true;
     qint32 rowNumber = 1;
+    qint32 rows = 0;
+    qsizetype letters = 0;
     for (auto line = reader.readLine(); line; line = reader.readLine(), ++rowNumber) {
         // That was told; the rows that are left would only tell it again.
         if (m_db.IsReadOnly())
@@ -115,9 +120,12 @@ bool ImportRun::importRows(const QString &path, const WaitDlg &progress)
         const QStringList values = SplitCsvRowForStoring(row);
         const bool added = m_target == NewCustomers ? AddCustomer(values) : AddCategory(values);
         good = added && good;
-        if (m_result.tried % rowsInGroup == 0) {
+        letters += row.size();
+        if (++rows == rowsInGroup || letters > lettersInGroup) {
             good = storeWaiting(group) && good;
             m_entries.clear();
+            rows = 0;
+            letters = 0;
         }
     }
     good = storeWaiting(group) && good;
@@ -132,7 +140,9 @@ bool ImportRun::storeWaiting(SaveGroup &group)
     const std::vector<qint32> rowids = std::exchange(m_waiting, {});
     if (rowids.empty())
         return true;
-    const LockAttempts tenAttempts(m_db.CBEngine());
+    if (m_db.IsReadOnly())
+        return false;
+    const LockAttempts patient(m_db.CBEngine(), attemptsAtGroup);
     if (!group.store())
         return false;
     for (const qint32 rowid : rowids)

@@ -38,11 +38,7 @@ Code rebuild(Handle session, const std::string &path)
         const Code code = d4reindex(table);
         return d4close(table) == r4success ? code : r4failure;
     }
-    if (lastError(session).kind == ErrorKind::Locked)
-        return d4locked;
-    // Most likely an index that cannot even be opened.
-    std::vector<RepairLine> lines;
-    return d4repair(session, path, lines);
+    return lastError(session).kind == ErrorKind::Locked ? d4locked : r4failure;
 }
 
 } // namespace
