@@ -249,6 +249,10 @@
         <source>View</source>
         <translation>Anzeigen</translation>
     </message>
+    <message>
+        <source>Copy of </source>
+        <translation>Kopie von </translation>
+    </message>
 </context>
 <context>
     <name>ContactsGrid</name>
@@ -1337,6 +1341,10 @@ Bitte wählen Sie das Menü Ansicht, Optionen, um Ihre E-Mail-Optionen zu prüfe
         <source>MS Word (*.doc)|*.doc|Rich Text Format (*.rtf)|*.rtf|Text Document (*.txt)|*.txt|All Files (*.*)|*.*</source>
         <translation>MS Word (*.doc)|*.doc|Rich-Text-Format (*.rtf)|*.rtf|Textdokument (*.txt)|*.txt|Alle Dateien (*.*)|*.*</translation>
     </message>
+    <message>
+        <source>Untitled </source>
+        <translation>Unbenannt </translation>
+    </message>
 </context>
 <context>
     <name>WholeFile</name>
@@ -1636,6 +1644,18 @@ Bitte bitten Sie Ihren Administrator um das Recht, die Dateien im Datenordner zu
     <message>
         <source>Unable to open: %1</source>
         <translation>Kann nicht geöffnet werden: %1</translation>
+    </message>
+    <message>
+        <source>Unable to create subdirectory for attachments: &apos;%1&apos;</source>
+        <translation>Das Unterverzeichnis für Anlagen kann nicht angelegt werden: „%1“</translation>
+    </message>
+    <message>
+        <source>The record locks of the workstations in &apos;%1&apos; do not reach each other, so that two people could overwrite each other&apos;s work. Therefore this database is now open for reading only.
+
+Please ask your administrator to connect this network directory with working locks at every workstation (without options like nolock, local_lock or nobrl). Then open the database again.</source>
+        <translation>Die Datensatzsperren der Arbeitsplätze in „%1“ erreichen einander nicht, sodass zwei Personen die Arbeit der jeweils anderen überschreiben könnten. Daher ist diese Datenbank nun nur zum Lesen geöffnet.
+
+Bitten Sie Ihre Systemverwaltung, dieses Netzwerkverzeichnis an jedem Arbeitsplatz mit funktionierenden Sperren zu verbinden (ohne Optionen wie nolock, local_lock oder nobrl). Öffnen Sie die Datenbank danach erneut.</translation>
     </message>
 </context>
 <context>

@@ -249,6 +249,10 @@
         <source>View</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Copy of </source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ContactsGrid</name>
@@ -1323,6 +1327,10 @@ Please choose View, Options menu to check or change your Email options.</source>
         <source>MS Word (*.doc)|*.doc|Rich Text Format (*.rtf)|*.rtf|Text Document (*.txt)|*.txt|All Files (*.*)|*.*</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Untitled </source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>WholeFile</name>
@@ -1601,6 +1609,16 @@ Please ask your administrator for the right to change the files in the data fold
     </message>
     <message>
         <source>Unable to open: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unable to create subdirectory for attachments: &apos;%1&apos;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The record locks of the workstations in &apos;%1&apos; do not reach each other, so that two people could overwrite each other&apos;s work. Therefore this database is now open for reading only.
+
+Please ask your administrator to connect this network directory with working locks at every workstation (without options like nolock, local_lock or nobrl). Then open the database again.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -6,8 +6,18 @@
 #include "common/base/Prompts.h"
 #include "db/AttachmentFolder.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+
+namespace
+{
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(clsDB)
+};
+
+} // namespace
 
 QString clsDB::AttachPath() const
 {
@@ -28,8 +38,7 @@ void clsDB::CreateAttachDir()
 {
     const QString path = AttachPath();
     if (!clsSystem::DirExists(path) && !clsSystem::CreateDir(path)) {
-        prompts::warn(
-            QStringLiteral("Unable to create subdirectory for attachments: '%1'").arg(path));
+        prompts::warn(Words::tr("Unable to create subdirectory for attachments: '%1'").arg(path));
     }
 }
 

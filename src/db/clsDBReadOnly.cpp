@@ -72,7 +72,7 @@ void clsDB::noteDeafLocks()
 {
     becomeReadOnly(
         Words::tr("the record locks of the workstations do not reach each other"),
-        QStringLiteral(
+        Words::tr(
             "The record locks of the workstations in '%1' do not reach each other, so that two "
             "people could overwrite each other's work. Therefore this database is now open for "
             "reading only.\n\nPlease ask your administrator to connect this network directory "

@@ -238,7 +238,7 @@ void AttachmentsCtl::saveCopy()
     const QString source = selectedPath();
     QString target;
     if (!clsSystem::GetFilenameSaveAs(target, AttachmentsCtl::tr("Save Attachment As..."),
-                                      allFiles(), u"Copy of " + LvGetSelectedItemText(m_ui->lv)))
+                                      allFiles(), tr("Copy of ") + LvGetSelectedItemText(m_ui->lv)))
         return;
     if (clsSystem::LocalPath(target).compare(source, Qt::CaseInsensitive) == 0) {
         prompts::critical(tr("Source and Destination files are identical!"));

@@ -63,7 +63,7 @@ void SaveRTB_GetFileName(const QPlainTextEdit &box)
         Words::tr("Save As"),
         Words::tr("MS Word (*.doc)|*.doc|Rich Text Format (*.rtf)|*.rtf|"
                   "Text Document (*.txt)|*.txt|All Files (*.*)|*.*"),
-        QLatin1String("Untitled ") + QString::number(gSys.NextDocNum()), QStringLiteral("rtf"));
+        Words::tr("Untitled ") + QString::number(gSys.NextDocNum()), QStringLiteral("rtf"));
     if (!name.isEmpty())
         SaveRTB(box, name);
 }

@@ -84,7 +84,8 @@ Code d4seekNextDouble(Handle table, double key);
 // Reads the current row afresh once it is locked. Record 0 is the append lock: while it is held
 // no other session adds a row, and no row lock may be waited for.
 Code d4lock(Handle table, std::uint32_t record);
-Code d4unlock(Handle table);  // stores a pending change first; the locks go in any case
+// Stores a pending change first; the locks go in any case, within a group at its end.
+Code d4unlock(Handle table);
 Code d4flush(Handle table);   // stores a pending change
 void d4discard(Handle table); // forgets a pending change or a row begun
 Code d4delete(Handle table);
@@ -96,8 +97,8 @@ Code d4blank(Handle table);
 Code d4append(Handle table); // the new row is current and stays locked until d4unlock
 // Rows stored, deleted or appended from here on wait in memory. d4groupEnd stores all of them as
 // one save, or none; d4groupDrop and d4close forget them. Until then every reader finds the rows as
-// they were, changed rows stay locked and cannot be changed again, and after each of them the table
-// is on no row. Opened exclusively nothing waits.
+// they were, locks stay, changed rows cannot be changed again, and after each of them, appended or
+// not, the table is on no row. Opened exclusively nothing waits.
 Code d4groupBegin(Handle table);
 Code d4groupEnd(Handle table);
 Code d4groupDrop(Handle table);

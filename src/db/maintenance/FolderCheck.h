@@ -29,7 +29,8 @@ public:
 
     // False when no file of a database is there at all.
     bool hasDatabase() const { return m_files.hasDatabase(); }
-    // Changes nothing; only a save that a station left unfinished is finished first.
+    // Changes nothing but what any opening mends: a save that a station left unfinished, and counts
+    // and tags that the rows prove wrong. Once for an object.
     const QList<Finding> &run();
     // The files of one table alone, without what binds it to the others.
     const QList<Finding> &run(const schema::TableInfo &table);
