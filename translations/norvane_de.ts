@@ -1742,6 +1742,10 @@ Bitten Sie Ihre Systemverwaltung, dieses Netzwerkverzeichnis an jedem Arbeitspla
         <source>Row %1</source>
         <translation>Zeile %1</translation>
     </message>
+    <message>
+        <source>The file changed while it was checked. Try again when no other program writes to it.</source>
+        <translation>Die Datei hat sich während der Prüfung geändert. Versuchen Sie es erneut, wenn kein anderes Programm in sie schreibt.</translation>
+    </message>
 </context>
 <context>
     <name>clsSystem</name>
@@ -2652,6 +2656,10 @@ Möchten Sie den Kunden mit dem doppelten Wert in %2 trotzdem hinzufügen?</tran
     <message>
         <source>The file has changed since it was checked.</source>
         <translation>Die Datei wurde seit der Prüfung geändert.</translation>
+    </message>
+    <message>
+        <source>%1 rows hold letters that cannot be stored; a ? stands for each.</source>
+        <translation>%1 Zeilen enthalten Zeichen, die nicht gespeichert werden können; für jedes steht ein ?.</translation>
     </message>
 </context>
 <context>

@@ -1706,6 +1706,10 @@ Please ask your administrator to connect this network directory with working loc
         <source>Row %1</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>The file changed while it was checked. Try again when no other program writes to it.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>clsSystem</name>
@@ -2608,6 +2612,10 @@ Do you want to add this customer with the duplicate %2 anyways?</source>
     </message>
     <message>
         <source>The file has changed since it was checked.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 rows hold letters that cannot be stored; a ? stands for each.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -57,6 +57,7 @@ void fitColumns(QTableView *grid)
     header->setMaximumSectionSize(kWidest * grid->logicalDpiX() / 96);
     grid->resizeColumnsToContents();
     header->setMaximumSectionSize(-1);
+    grid->verticalHeader()->setDefaultSectionSize(grid->verticalHeader()->minimumSectionSize());
     grid->verticalHeader()->setMinimumWidth(
         grid->fontMetrics().horizontalAdvance(QStringLiteral("00000000")));
 }
@@ -101,6 +102,7 @@ void ImportPreview::countRows(CsvReader &reader, qint32 fileRows)
             if (m_rows % kBlockRows == 0)
                 m_places.push_back(place);
             ++m_rows;
+            m_lostLetters += reader.lineLostLetters() ? 1 : 0;
         }
         if (place.fileRow == std::numeric_limits<qint32>::max())
             break;
@@ -189,6 +191,12 @@ void ImportLoadPreviewGrid(QTableView *grid, const QString &path, const clsImpor
     fitColumns(grid);
     if (rows->rowCount() > 0)
         grid->setCurrentIndex(rows->index(0, 0));
+}
+
+qint32 previewLostLetters(const QTableView *grid)
+{
+    const auto *rows = qobject_cast<const ImportPreview *>(grid->model());
+    return rows == nullptr ? 0 : rows->lostLetters();
 }
 
 void clearPreviewGrid(QTableView *grid)

@@ -24,6 +24,9 @@ public:
     // `fileRows` as ValidateRows counted them.
     void load(qint32 fileRows);
 
+    // Rows with letters that cannot be stored, as far as the file was read.
+    qint32 lostLetters() const { return m_lostLetters; }
+
     int rowCount(const QModelIndex &parent = {}) const override;
     int columnCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
@@ -50,10 +53,12 @@ private:
     QList<qsizetype> m_relevant; // places of the headings that are shown
     std::vector<Place> m_places; // one for each block
     int m_rows = 0;
+    qint32 m_lostLetters = 0;
     mutable QCache<int, Block> m_blocks;
 };
 
 // Fills the grid, which owns the rows until clearPreviewGrid.
 void ImportLoadPreviewGrid(QTableView *grid, const QString &path, const clsImportColDefs &columns,
                            const QStringList &headings, qint32 rowCount);
+qint32 previewLostLetters(const QTableView *grid);
 void clearPreviewGrid(QTableView *grid);

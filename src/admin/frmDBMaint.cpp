@@ -178,8 +178,16 @@ QString frmDBMaint::checked(const QList<Finding> &findings, const QString &file)
 {
     QStringList lines{tr("The check of %1 found this:").arg(file)};
     bool ofIndex = false;
-    for (const Finding &finding : findings) {
-        lines += {QString(), finding.file + u": " + finding.text + u'.', finding.advice};
+    for (qsizetype i = 0; i < findings.size(); ++i) {
+        const Finding &finding = findings.at(i);
+        // What the same is to be done about stands together, with the advice once below it.
+        const bool first = i == 0 || findings.at(i - 1).advice != finding.advice;
+        const bool last = i + 1 == findings.size() || findings.at(i + 1).advice != finding.advice;
+        if (first)
+            lines += QString();
+        lines += finding.file + u": " + finding.text + u'.';
+        if (last)
+            lines += finding.advice;
         ofIndex = ofIndex || finding.file.endsWith(QLatin1String(".cdx"), Qt::CaseInsensitive);
     }
     if (ofIndex)

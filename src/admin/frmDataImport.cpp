@@ -11,7 +11,6 @@
 #include "db/import/ImportRun.h"
 #include "ui_frmDataImport.h"
 
-#include <QFileInfo>
 #include <QShortcut>
 
 #include <algorithm>
@@ -34,6 +33,9 @@ frmDataImport::frmDataImport(QWidget *parent)
     ui->lblWelcome->setText(tr("This wizard will guide you through importing data into %1. Please "
                                "select the data you would like to import from the following list:")
                                 .arg(app::title()));
+    QSizePolicy hint = ui->lblImportNow->sizePolicy();
+    hint.setRetainSizeWhenHidden(true); // the rows above it stay as they are
+    ui->lblImportNow->setSizePolicy(hint);
     fillTargets();
     connectControls();
     DisplayFrame();
@@ -111,6 +113,8 @@ void frmDataImport::DisplayFrame()
             const BusyWindow oneAtATime(this);
             ImportLoadPreviewGrid(ui->grdPreview, fileName(), m_columns, m_headings, m_rowCount);
         }
+        ui->lblLostLetters->setText(lostLetters(previewLostLetters(ui->grdPreview)));
+        ui->lblLostLetters->setVisible(!ui->lblLostLetters->text().isEmpty());
         ui->cmdNext->setFocus();
     }
 }
@@ -169,7 +173,7 @@ bool frmDataImport::ValidateData()
 {
     InitDataImportStructures();
     SetupColumns();
-    m_checked = fileStamp();
+    m_checked = FileStamp::of(fileName());
     {
         const BusyWindow oneAtATime(this);
         host().pumpEvents();
@@ -205,6 +209,7 @@ void frmDataImport::ImportData()
     }
     ui->cmdNext->setEnabled(false);
     ui->cmdPrevious->setEnabled(false);
+    ui->lblImportNow->hide();
     ui->CancelButton->setText(tr("&Finish"));
     ui->CancelButton->setFocus();
     prompts::inform(tr("Imported %1 Records!").arg(result.tried) + outcome(result));
@@ -230,9 +235,19 @@ QString frmDataImport::outcome(const ImportResult &result) const
     const qint32 failed = result.tried - result.stored - result.skipped;
     if (failed > 0)
         text += u'\n' + tr("%1 rows could not be stored.").arg(clsSystem::CommafyNoDec(failed));
-    if (!(fileStamp() == m_checked))
+    if (result.lostLetters > 0)
+        text += u'\n' + lostLetters(result.lostLetters);
+    if (FileStamp::of(fileName()) != m_checked)
         text += u'\n' + tr("The file has changed since it was checked.");
     return text;
+}
+
+// Empty when every letter of the file can be stored.
+QString frmDataImport::lostLetters(qint32 rows)
+{
+    return rows == 0 ? QString()
+                     : tr("%1 rows hold letters that cannot be stored; a ? stands for each.")
+                           .arg(clsSystem::CommafyNoDec(rows));
 }
 
 void frmDataImport::InitDataImportStructures()
@@ -256,12 +271,6 @@ const ImportTarget &frmDataImport::target() const
 QString frmDataImport::fileName() const
 {
     return clsSystem::Trim(ui->txtFilename->text());
-}
-
-frmDataImport::FileStamp frmDataImport::fileStamp() const
-{
-    const QFileInfo file(clsSystem::LocalPath(fileName()));
-    return {file.size(), file.lastModified()};
 }
 
 void frmDataImport::done(int result)

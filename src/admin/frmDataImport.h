@@ -5,8 +5,8 @@
 
 #include "admin/ImportTargets.h"
 #include "db/import/clsImportData.h"
+#include "db/import/FileStamp.h"
 
-#include <QDateTime>
 #include <QDialog>
 
 #include <memory>
@@ -29,12 +29,6 @@ public:
 
 private:
     enum Step { ChooseTarget = 0, ChooseFile = 1, LookAtRows = 2 };
-    // What tells a file from an earlier state of it.
-    struct FileStamp {
-        qint64 size = 0;
-        QDateTime changed;
-        bool operator==(const FileStamp &) const = default;
-    };
 
     void fillTargets();
     void connectControls();
@@ -50,9 +44,9 @@ private:
     void InitDataImportStructures();
     void SetupColumns();
     QString outcome(const ImportResult &result) const;
+    static QString lostLetters(qint32 rows);
     const ImportTarget &target() const;
     QString fileName() const;
-    FileStamp fileStamp() const;
 
     std::unique_ptr<Ui::frmDataImport> ui;
     const QList<ImportTarget> m_targets = importTargets();

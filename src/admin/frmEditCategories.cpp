@@ -6,6 +6,7 @@
 #include "common/form/ListSinks.h"
 #include "common/ui/BusyWindow.h"
 #include "common/ui/Controls.h"
+#include "db/RowDeletion.h"
 #include "db/TableUse.h"
 #include "ui_frmEditCategories.h"
 
@@ -14,9 +15,9 @@
 namespace
 {
 
-constexpr int kManyItems = 100; // take long enough to delete that a progress window is shown
-constexpr int kItemsAStep = 20;
-constexpr int kTextLength = 40; // of the table's field, in characters of one byte
+constexpr int kManyItems = 100;     // take long enough to delete that a progress window is shown
+constexpr int kItemsTogether = 100; // in one save, for which others wait no longer than for a few
+constexpr int kTextLength = 40;     // of the table's field, in characters of one byte
 
 // The tables that refer to a list, open for as long as entries are deleted.
 class References
@@ -128,14 +129,21 @@ void frmEditCategories::deleteAll()
             clsSystem::WaitDlgShow(wait, m_list.caption, tr("Deleting items. Please wait..."), true,
                                    true);
         int failures = 0; // each was told; after a few the others would fail alike
-        for (int row = 0; rows && failures < 3 && row < count; ++row) {
-            if (row % kItemsAStep == 0 && wait != nullptr &&
-                !WaitDlgGoesOn(wait, row * 100 / count))
+        for (int row = 0; rows && failures < 3 && row < count; row += kItemsTogether) {
+            if (wait != nullptr && !WaitDlgGoesOn(wait, row * 100 / count))
                 break;
-            const qint32 rowid = LvKeyId(m_ui->lv->itemKey(row));
-            if (references.none(rowid) &&
-                !gDB.DeleteRecord(rowid, m_list.table.path, rows.handle()))
-                ++failures;
+            QList<qint32> unused;
+            for (int i = row; i < std::min(row + kItemsTogether, count); ++i) {
+                const qint32 rowid = LvKeyId(m_ui->lv->itemKey(i));
+                if (references.none(rowid))
+                    unused.append(rowid);
+            }
+            deleteTogether(gDB, rows.handle(), m_list.table.keyField, unused);
+            // What could not go with the others waits for its lock, and tells.
+            for (const qint32 rowid : unused) {
+                if (failures < 3 && !gDB.DeleteRecord(rowid, m_list.table.path, rows.handle()))
+                    ++failures;
+            }
         }
     }
     LoadData();

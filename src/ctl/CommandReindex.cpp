@@ -21,6 +21,9 @@ bool reindex(const clsDB &db, const clsDBFile &files, Console &console)
     }
     console.err << QStringLiteral("Unable to index file: %1 (%2)\n")
                        .arg(shownPath(files.table), result.reason);
+    if (result.outcome == ReindexOutcome::InUse)
+        console.err << QStringLiteral("Nothing was changed. Close the database at all other "
+                                      "stations and try again.\n");
     if (!result.kept.isEmpty())
         console.err
             << QStringLiteral("The index as it was is kept in '%1'.\n").arg(shownPath(result.kept));

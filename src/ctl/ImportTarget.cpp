@@ -1,6 +1,7 @@
 #include "ctl/ImportTarget.h"
 
 #include "db/clsDB.h"
+#include "db/import/FileStamp.h"
 #include "db/import/ImportRun.h"
 #include "db/LookupTypes.h"
 
@@ -67,6 +68,7 @@ std::optional<qint32> importFile(clsDB &db, const ImportTarget &target, const QS
     QStringList headings;
     qint32 rowCount = 0;
     QString errors;
+    const FileStamp checked = FileStamp::of(path);
     if (!checkFile(path, ImportRun::columns(target.listType), headings, rowCount, errors)) {
         console.err
             << QStringLiteral("IMPORT FAILED FROM FILE %1!\n\n%2\n").arg(path, errors.trimmed());
@@ -75,6 +77,12 @@ std::optional<qint32> importFile(clsDB &db, const ImportTarget &target, const QS
     ImportRun run(db, target.listType, headings, rowCount);
     run.onStored(eachRow);
     const ImportResult result = run.ImportData_Detail(path);
+    if (FileStamp::of(path) != checked)
+        console.err << QStringLiteral("The file has changed since it was checked.\n");
+    if (result.lostLetters > 0)
+        console.err << QStringLiteral("%1 rows hold letters that cannot be stored; a ? stands for "
+                                      "each.\n")
+                           .arg(result.lostLetters);
     if (result.ok && result.stored + result.skipped == result.tried)
         return result.tried;
     console.err << QStringLiteral("Unable to import data! %1 of %2 rows were stored.\n")

@@ -1,39 +1,14 @@
 #include "db/IssuePurge.h"
 
 #include "common/base/Failure.h"
+#include "db/RowDeletion.h"
 #include "db/TableUse.h"
-
-#include <algorithm>
-
-using namespace norvane::engine;
 
 namespace
 {
 
 // Whose rows go in one save; others wait for it no longer than for a few ordinary ones.
 constexpr qsizetype Together = 200;
-
-// The records of the rows with these keys; in the order of the file, which is the quickest.
-std::vector<std::uint32_t> recordsOf(TableUse &rows, const QList<qint32> &keys)
-{
-    std::vector<std::uint32_t> records;
-    for (const qint32 key : keys) {
-        for (bool found = rows.seek(key); found; found = rows.seekNext(key))
-            records.push_back(d4recNo(rows.handle()));
-    }
-    std::sort(records.begin(), records.end());
-    records.erase(std::unique(records.begin(), records.end()), records.end());
-    return records;
-}
-
-void deleteWaiting(clsDB::Handle table, std::uint32_t record)
-{
-    if (d4go(table, record) != r4success)
-        return;
-    const RowLock lock(table);
-    if (lock && !d4deleted(table) && d4delete(table) == r4success)
-        storeChange(table);
-}
 
 } // namespace
 
@@ -56,7 +31,7 @@ PurgeResult IssuePurge::DeleteIssues(const QList<qint32> &ids, const Progress &p
             const QList<qint32> some = ids.mid(done, Together);
             const QList<qint32> bare =
                 deleteWhatBelongsTo(some, actions.handle(), [&] { progress(done, all); });
-            deleteTogether(issues.handle(), QStringLiteral("rowid"), bare);
+            deleteTogether(m_db, issues.handle(), QStringLiteral("rowid"), bare);
             for (const qint32 id : some) {
                 if (bare.contains(id) && m_db.DeleteRecord(id, m_db.IssuesTable(), issues.handle()))
                     ++result.deleted;
@@ -68,12 +43,12 @@ PurgeResult IssuePurge::DeleteIssues(const QList<qint32> &ids, const Progress &p
     return result;
 }
 
-// Those issues of which nothing is left but themselves.
+// Those issues of which nothing is left but themselves. What could not go together goes by itself.
 QList<qint32> IssuePurge::deleteWhatBelongsTo(const QList<qint32> &ids, clsDB::Handle actions,
                                               const std::function<void()> &goOn)
 {
     const QString tag = QStringLiteral("issueid");
-    deleteTogether(actions, tag, ids);
+    deleteTogether(m_db, actions, tag, ids);
     QList<qint32> bare;
     for (const qint32 id : ids) {
         goOn();
@@ -83,24 +58,6 @@ QList<qint32> IssuePurge::deleteWhatBelongsTo(const QList<qint32> &ids, clsDB::H
             m_db.DeleteAttachments(id, QStringLiteral("_i")))
             bare.append(id);
     }
-    deleteTogether(actions, tag, bare); // what another station added to them meanwhile
+    deleteTogether(m_db, actions, tag, bare); // what another station added to them meanwhile
     return bare;
-}
-
-// One save for all rows that can be had at once. Each is deleted once more by itself afterwards,
-// which finds nothing, or waits for the row and tells what is wrong.
-void IssuePurge::deleteTogether(clsDB::Handle table, const QString &tag, const QList<qint32> &keys)
-{
-    TableUse rows(m_db, {}, table);
-    if (!rows.select(tag))
-        return;
-    const std::vector<std::uint32_t> records = recordsOf(rows, keys);
-    SaveGroup group(table);
-    {
-        const LockAttempts atOnce(m_db.CBEngine(), 0);
-        for (const std::uint32_t record : records)
-            deleteWaiting(table, record);
-    }
-    const LockAttempts tenAttempts(m_db.CBEngine());
-    group.store();
 }

@@ -29,7 +29,6 @@ public:
 private:
     QList<qint32> deleteWhatBelongsTo(const QList<qint32> &ids, clsDB::Handle actions,
                                       const std::function<void()> &goOn);
-    void deleteTogether(clsDB::Handle table, const QString &tag, const QList<qint32> &keys);
 
     clsDB &m_db;
 };

@@ -219,6 +219,23 @@ TEST_F(ListEditor, DeletingAsksAndLeavesWhatIsInUse)
     EXPECT_NE(QString(), stored(unseen));
     EXPECT_FALSE(machine.isBusy());
 
+    // One that another station holds stays, which is told once; the rest goes.
+    const qint32 held = db.addListItem(QuickEntries, u"held"_s);
+    db.addListItem(QuickEntries, u"free"_s);
+    open(QuickEntries);
+    {
+        auto other = db.otherStation();
+        TableUse rows(*other, other->CategoryTable());
+        rows.select(u"rowid"_s);
+        ASSERT_TRUE(rows.seek(held));
+        const RowLock lock(rows.handle());
+        code4lockDelay(gDB.CBEngine(), 1);
+        ask(u"ALL items"_s, Answer::Yes, u"Delete ALL Confirmation"_s);
+        person.expect(u"RECORD LOCKED: Unable to Delete from "_s).kind(Kind::Critical);
+        click("cmdDeleteAll");
+        EXPECT_EQ(QStringList{u"held"_s}, texts());
+    }
+    ASSERT_TRUE(gDB.DeleteRecord(held, gDB.CategoryTable()));
     open(QuickEntries);
     EXPECT_FALSE(button("cmdDeleteAll")->isEnabled());
 

@@ -273,6 +273,37 @@ TEST_F(DataImport, AFileThatGoesOrChangesBeforeTheImportIsTold)
     EXPECT_EQ(stored(gDB.CustomerTable()), 2);
 }
 
+TEST_F(DataImport, AFileCutOffDuringTheImportKeepsWhatWasRead)
+{
+    const QString file = write("DESCRIPTION\n" + QByteArray("Status\n").repeated(20000));
+    choose(statuses, file);
+    int pauses = 0;
+    host().pumpEvents = [&] {
+        if (++pauses == 5) {
+            EXPECT_TRUE(QFile::resize(file, 20));
+        }
+    };
+    person.expect("rows of data", Answer::Yes);
+    person.expect("The file has changed since it was checked.").kind(Kind::Information);
+    next();
+    EXPECT_GT(gDB.CategoryExists("Status", 101), 0);
+}
+
+TEST_F(DataImport, LettersThatCannotBeStoredAreSeenBeforehand)
+{
+    const QByteArray accents = QString("o\u0308 \u20AC?").toUtf8();
+    choose(customers,
+           write("\xEF\xBB\xBFLASTNAME,COMPANY\nDvo\u0159\u00E1k,?\n" + accents + ",x\n"));
+    EXPECT_EQ(previewCell(0, 0), "Dvo?\u00E1k");
+    EXPECT_EQ(previewCell(1, 0), "\u00F6 \u20AC?");
+    const QString told = "1 rows hold letters that cannot be stored; a ? stands for each.";
+    EXPECT_EQ(label("lblLostLetters"), told);
+    EXPECT_TRUE(part<QLabel>("lblLostLetters")->isVisible());
+    person.expect("2 rows tried, 2 stored, 0 skipped.\n" + told);
+    next();
+    EXPECT_FALSE(part<QLabel>("lblImportNow")->isVisible());
+}
+
 TEST_F(DataImport, ATableThatCannotBeOpenedIsTold)
 {
     choose(customers, write("LASTNAME,COMPANY\nDoe,\n"));

@@ -150,6 +150,43 @@ TEST_F(ImportChecks, EventsPassAtEachHundredthRow)
     host() = before;
 }
 
+TEST_F(ImportChecks, AFileThatChangesMeanwhileIsRefused)
+{
+    const QByteArray rows = "DESCRIPTION\n" + QByteArray("Gold\n").repeated(20000);
+    const struct {
+        const char *what;
+        std::function<bool(const QString &)> change;
+    } cases[] = {
+        {"longer",
+         [](const QString &path) {
+             QFile file(path);
+             return file.open(QIODevice::Append) && file.write("Silver\n") == 7;
+         }},
+        {"cut off", [](const QString &path) { return QFile::resize(path, 70000); }},
+        {"replaced",
+         [&rows](const QString &path) {
+             QFile file(path + ".new");
+             return file.open(QIODevice::WriteOnly) && file.write(rows + "\n") > 0 &&
+                    QFile::remove(path) && file.rename(path);
+         }},
+        {"gone", [](const QString &path) { return QFile::remove(path); }},
+    };
+    const Host before = host();
+    for (const auto &[what, change] : cases) {
+        SCOPED_TRACE(what);
+        int pauses = 0;
+        host().pumpEvents = [&, &act = change] {
+            if (++pauses == 50) {
+                EXPECT_TRUE(act(m_file.path()));
+            }
+        };
+        EXPECT_FALSE(checkRows(rows, lookupImportColumns()));
+        EXPECT_TRUE(m_errors.startsWith("The file changed while it was checked."))
+            << m_errors.toStdString();
+    }
+    host() = before;
+}
+
 TEST_F(ImportChecks, NumbersAreCheckedByKindAndRange)
 {
     const QString value = "Row 7: The value [%1] entered for column QTY must be ";

@@ -73,9 +73,15 @@ void CsvReader::passLineEnd()
         ++m_pos;
 }
 
-QString CsvReader::decoded() const
+// As it will be stored, so that nothing is seen beforehand that is not there afterwards.
+QString CsvReader::decoded()
 {
-    QString text = m_utf8 ? QString::fromUtf8(m_line) : fromAnsi(m_line);
+    QByteArray stored = m_line;
+    if (m_utf8) {
+        stored = toAnsi(QString::fromUtf8(m_line));
+        m_lostLetters = stored.count('?') > m_line.count('?');
+    }
+    QString text = fromAnsi(stored);
     // No text holds this one; a field that took it would seem to end there.
     text.remove(QChar(u'\0'));
     return text;
@@ -85,6 +91,7 @@ std::optional<QString> CsvReader::readLine()
 {
     m_line.clear();
     m_cut = false;
+    m_lostLetters = false;
     if (!fill())
         return std::nullopt;
     while (fill()) {

@@ -24,6 +24,8 @@ public:
     qint64 position() const { return m_file.pos() - (m_block.size() - m_pos); }
     bool seek(qint64 position);
     bool lineWasCut() const { return m_cut; }
+    // The last line held letters outside Windows-1252, which came as question marks.
+    bool lineLostLetters() const { return m_lostLetters; }
     bool failed() const { return m_file.error() != QFileDevice::NoError; }
     // Names the file and what the system said.
     Failure failure() const;
@@ -32,12 +34,13 @@ private:
     bool fill();
     void take(qsizetype count);
     void passLineEnd();
-    QString decoded() const;
+    QString decoded();
 
     QFile m_file;
     QByteArray m_block;
     qsizetype m_pos = 0;
     QByteArray m_line;
     bool m_cut = false;
+    bool m_lostLetters = false;
     bool m_utf8 = false;
 };

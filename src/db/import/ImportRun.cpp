@@ -117,6 +117,7 @@ bool ImportRun::importRows(const QString &path, const WaitDlg &progress)
         if (rowNumber == 1 || row.isEmpty())
             continue;
         ++m_result.tried;
+        m_result.lostLetters += reader.lineLostLetters() ? 1 : 0;
         const QStringList values = SplitCsvRowForStoring(row);
         const bool added = m_target == NewCustomers ? AddCustomer(values) : AddCategory(values);
         good = added && good;

@@ -18,10 +18,11 @@
 class SaveGroup;
 
 struct ImportResult {
-    bool ok = false;    // everything could be opened and every row went in
-    qint32 tried = 0;   // rows that are not blank; the number told to the user
-    qint32 stored = 0;  // new records
-    qint32 skipped = 0; // list entries that were there already
+    bool ok = false;        // everything could be opened and every row went in
+    qint32 tried = 0;       // rows that are not blank; the number told to the user
+    qint32 stored = 0;      // new records
+    qint32 skipped = 0;     // list entries that were there already
+    qint32 lostLetters = 0; // rows with letters that cannot be stored
 };
 
 class ImportRun

@@ -5,6 +5,7 @@
 #include "common/base/Host.h"
 #include "db/import/CsvReader.h"
 #include "db/import/CsvText.h"
+#include "db/import/FileStamp.h"
 
 #include <QCoreApplication>
 
@@ -143,6 +144,7 @@ bool clsImportData::ValidateRows(const QString &path, const clsImportColDefs &co
     clsSystem::WaitDlgShow(progress, Words::tr("Import Data"),
                            Words::tr("Validating Data. Please wait..."), false, true);
     const bool good = guarded("clsImportData_ValidateRows", false, [&] {
+        const FileStamp before = FileStamp::of(path);
         CsvReader reader(path);
         reader.open();
         int badRows = 0;
@@ -171,6 +173,12 @@ bool clsImportData::ValidateRows(const QString &path, const clsImportColDefs &co
         }
         if (reader.failed())
             throw reader.failure();
+        if (!cancelled && FileStamp::of(path) != before) {
+            errors += Words::tr("The file changed while it was checked. Try again when no other "
+                                "program writes to it.") +
+                      clsSystem::CRLF();
+            return false;
+        }
         return badRows == 0 && !cancelled;
     });
     clsSystem::WaitDlgRemove(progress);
