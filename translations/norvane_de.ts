@@ -2147,8 +2147,8 @@ Bitten Sie Ihre Systemverwaltung, dieses Netzwerkverzeichnis an jedem Arbeitspla
         <translation>Abbrechen</translation>
     </message>
     <message>
-        <source>Save and keep the window open</source>
-        <translation>Speichern und das Fenster geöffnet lassen</translation>
+        <source>Save and keep the window open (Ctrl+S)</source>
+        <translation>Speichern und das Fenster geöffnet lassen (Strg+S)</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
@@ -2954,8 +2954,8 @@ Möchten Sie den Kunden mit dem doppelten Wert in %2 trotzdem hinzufügen?</tran
         <translation>Abbrechen</translation>
     </message>
     <message>
-        <source>Save and keep the window open</source>
-        <translation>Speichern und das Fenster geöffnet lassen</translation>
+        <source>Save and keep the window open (Ctrl+S)</source>
+        <translation>Speichern und das Fenster geöffnet lassen (Strg+S)</translation>
     </message>
     <message>
         <source>Appl&amp;y</source>
@@ -3323,8 +3323,8 @@ Bitte machen Sie eine Kopie des gesamten Datenordners, und stellen Sie die besch
         <translation>Abbrechen</translation>
     </message>
     <message>
-        <source>Save and keep the window open</source>
-        <translation>Speichern und das Fenster geöffnet lassen</translation>
+        <source>Save and keep the window open (Ctrl+S)</source>
+        <translation>Speichern und das Fenster geöffnet lassen (Strg+S)</translation>
     </message>
     <message>
         <source>Appl&amp;y</source>
@@ -4350,8 +4350,8 @@ Datei, Datenbank öffnen... öffnet eine vorhandene; Datei, Neue Datenbank... le
         <translation>Abbrechen</translation>
     </message>
     <message>
-        <source>Save and keep the window open</source>
-        <translation>Speichern und das Fenster geöffnet lassen</translation>
+        <source>Save and keep the window open (Ctrl+S)</source>
+        <translation>Speichern und das Fenster geöffnet lassen (Strg+S)</translation>
     </message>
     <message>
         <source>App&amp;ly</source>
@@ -4967,8 +4967,8 @@ Datei, Datenbank öffnen... öffnet eine vorhandene; Datei, Neue Datenbank... le
         <translation>Abbrechen</translation>
     </message>
     <message>
-        <source>Save and keep the window open</source>
-        <translation>Speichern und das Fenster geöffnet lassen</translation>
+        <source>Save and keep the window open (Ctrl+S)</source>
+        <translation>Speichern und das Fenster geöffnet lassen (Strg+S)</translation>
     </message>
     <message>
         <source>Appl&amp;y</source>
@@ -5647,8 +5647,8 @@ Was möchten Sie tun?</translation>
         <translation>Abbrechen</translation>
     </message>
     <message>
-        <source>Save and keep the window open</source>
-        <translation>Speichern und das Fenster geöffnet lassen</translation>
+        <source>Save and keep the window open (Ctrl+S)</source>
+        <translation>Speichern und das Fenster geöffnet lassen (Strg+S)</translation>
     </message>
     <message>
         <source>Appl&amp;y</source>

@@ -2111,7 +2111,7 @@ Please ask your administrator to connect this network directory with working loc
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Save and keep the window open</source>
+        <source>Save and keep the window open (Ctrl+S)</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2911,7 +2911,7 @@ Do you want to add this customer with the duplicate %2 anyways?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Save and keep the window open</source>
+        <source>Save and keep the window open (Ctrl+S)</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -3276,7 +3276,7 @@ Please make a copy of the whole data folder, and restore the damaged file from y
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Save and keep the window open</source>
+        <source>Save and keep the window open (Ctrl+S)</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -4292,7 +4292,7 @@ File, Open Database... opens one you have; File, New Database... creates one.</s
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Save and keep the window open</source>
+        <source>Save and keep the window open (Ctrl+S)</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -4907,7 +4907,7 @@ File, Open Database... opens one you have; File, New Database... creates one.</s
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Save and keep the window open</source>
+        <source>Save and keep the window open (Ctrl+S)</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -5585,7 +5585,7 @@ What would you like to do?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Save and keep the window open</source>
+        <source>Save and keep the window open (Ctrl+S)</source>
         <translation type="unfinished"></translation>
     </message>
     <message>

@@ -10,6 +10,7 @@
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QTabBar>
 #include <QTabWidget>
 
 namespace
@@ -320,6 +321,13 @@ TEST_F(CustomerForm, KeysOfTheWholeWindow)
     EXPECT_TRUE(form->isVisible());
 
     showPage(0);
+    auto *state = find<QComboBox>("cboStates"); // is switched off with the edit
+    state->setFocus();
+    QTest::keyClick(state, Qt::Key_S, Qt::ControlModifier);
+    EXPECT_FALSE(form->inEditMode());
+    EXPECT_EQ(QApplication::focusWidget(), find<QTabWidget>("tabs")->tabBar());
+
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_E, Qt::ControlModifier);
     box->setFocus();
     QTest::keyClicks(box, "Bern");
     QTest::keyClick(box, Qt::Key_Return);

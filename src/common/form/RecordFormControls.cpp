@@ -119,6 +119,7 @@ void RecordForm::connectControls()
 
     connect(c.OKButton, &QPushButton::clicked, this, &RecordForm::saveAndClose);
     connect(c.cmdApply, &QPushButton::clicked, this, &RecordForm::saveAndStay);
+    shortcutFor(this, QKeySequence::Save, c.cmdApply);
     connect(c.CancelButton, &QPushButton::clicked, this, &RecordForm::cancel);
     connect(c.cmdRefresh, &QPushButton::clicked, this, &RecordForm::LoadData);
     if (c.cmdDelete != nullptr)
@@ -160,7 +161,10 @@ void RecordForm::saveAndStay()
     m_controls.EM->ViewMode();
     afterApply();
     UpdateLastEditCtl();
+    const QWidget *focus = QApplication::focusWidget();
     SetUI();
+    if (focus == nullptr || !focus->isEnabled()) // or the keys would go to no window
+        CtlSetFocus(m_controls.tabs);
 }
 
 void RecordForm::cancel()
