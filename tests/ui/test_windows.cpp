@@ -1,5 +1,6 @@
 // The registry of open windows, and the message, progress and preview windows.
 #include "common/base/AppInfo.h"
+#include "common/ui/BusyWindow.h"
 #include "common/ui/FormWindow.h"
 #include "common/ui/frmFind.h"
 #include "common/ui/frmMessage.h"
@@ -61,6 +62,40 @@ protected:
 
     QMdiArea m_area;
 };
+
+TEST_F(WindowsTest, AWindowSwitchedOffStaysTheOneAtWork)
+{
+    FormWindow *other = open("OTHER1");
+    FormWindow *worker = open("WORKER1");
+    for (FormWindow *form : {other, worker}) {
+        auto *box = new QLineEdit(form);
+        box->show();
+        box->setFocus();
+    }
+    m_area.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&m_area));
+    ASSERT_EQ(m_area.activeSubWindow(), worker->parentWidget());
+    const auto work = [&] {
+        QDialog progress;
+        progress.show();
+        progress.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&progress));
+        progress.close();
+        m_area.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&m_area));
+        EXPECT_EQ(m_area.activeSubWindow(), worker->parentWidget());
+    };
+    {
+        const FormPause pause(worker);
+        work();
+    }
+    EXPECT_EQ(QApplication::focusWidget(), worker->findChild<QLineEdit *>());
+    {
+        const BusyWindow busy(worker);
+        work();
+    }
+    EXPECT_EQ(QApplication::focusWidget(), worker->findChild<QLineEdit *>());
+}
 
 TEST_F(WindowsTest, RegistryGoesByTheTagExactly)
 {

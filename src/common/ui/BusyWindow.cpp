@@ -1,6 +1,7 @@
 #include "common/ui/BusyWindow.h"
 
 #include "common/base/Host.h"
+#include "common/ui/Controls.h"
 
 #include <QEvent>
 #include <QWidget>
@@ -8,7 +9,7 @@
 BusyWindow::BusyWindow(QWidget *window) : m_window(window), m_focus(window->focusWidget())
 {
     window->installEventFilter(this);
-    window->setEnabled(false);
+    switchOff(window);
 }
 
 BusyWindow::~BusyWindow()

@@ -7,6 +7,7 @@
 #include <QGroupBox>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMdiSubWindow>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QShortcut>
@@ -204,6 +205,14 @@ void letButtonsShrink(const QWidget *form)
         button->setMinimumWidth(metrics.size(Qt::TextShowMnemonic, button->text()).width() +
                                 2 * metrics.averageCharWidth());
     }
+}
+
+void switchOff(QWidget *window)
+{
+    const bool atWork = window->isAncestorOf(window->window()->focusWidget());
+    window->setEnabled(false);
+    if (auto *frame = qobject_cast<QMdiSubWindow *>(window->parentWidget()); frame && atWork)
+        frame->setFocus();
 }
 
 void shortcutFor(QWidget *form, const QKeySequence &key, QAbstractButton *button)

@@ -59,6 +59,10 @@ QColor warningColour(const QWidget *control);
 // A choice that differs from the usual one stands out in that colour.
 void markChoice(QComboBox *combo, bool unusual);
 
+// Its frame in the main window takes the focus meanwhile: without any the toolkit would raise
+// another window.
+void switchOff(QWidget *window);
+
 // Lets the buttons become as narrow as their texts where room is short.
 void letButtonsShrink(const QWidget *form);
 

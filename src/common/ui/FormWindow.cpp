@@ -1,6 +1,7 @@
 #include "common/ui/FormWindow.h"
 
 #include "common/base/Prompts.h"
+#include "common/ui/Controls.h"
 
 #include <QKeyEvent>
 #include <QMdiArea>
@@ -128,7 +129,7 @@ FormPause::FormPause(QWidget *control)
         return;
     m_focus = m_form->focusWidget();
     if (++m_form->m_pauses == 1)
-        m_form->setEnabled(false);
+        switchOff(m_form);
 }
 
 FormPause::~FormPause()
