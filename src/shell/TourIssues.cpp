@@ -153,5 +153,16 @@ void Tour::seeMyIssues()
          QStringLiteral("the closed issue is among the open ones"));
     shoot(QStringLiteral("my-open-issues"));
     status->setCurrentIndex(0);
+    m_visitor->expect(QStringLiteral("frmRptOption"), [this](QWidget *options) {
+        shoot(QStringLiteral("list-print-options"));
+        control<QPushButton>(options, "OKButton")->click();
+    });
+    m_visitor->expect(QStringLiteral("frmPreview"), [this](QWidget *preview) {
+        settle();
+        shoot(QStringLiteral("list-preview"));
+        preview->close();
+    });
+    control<QPushButton>(mine, "cmdPrint")->click();
+    m_visitor->check();
     mine->close();
 }
