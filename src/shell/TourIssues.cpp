@@ -13,6 +13,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QLocale>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTabWidget>
@@ -85,17 +86,18 @@ void Tour::workOnIssue()
 
 void Tour::noteAction(frmIssue *form)
 {
+    const QString duration = QLocale().toString(1.25); // hours, as people here write them
     control<QTabWidget>(form, "tabs")->setCurrentIndex(actionsPage);
-    m_visitor->expect(QStringLiteral("frmIssueAction"), [this](QWidget *dialog) {
+    m_visitor->expect(QStringLiteral("frmIssueAction"), [this, duration](QWidget *dialog) {
         control<QComboBox>(dialog, "cboAction")->setCurrentText(QStringLiteral("Site Visit"));
         typeInto(control<QLineEdit>(dialog, "txtDesc"), QStringLiteral("New pick-up roller"));
-        typeInto(control<QLineEdit>(dialog, "txtDuration"), QStringLiteral("1.25"));
+        typeInto(control<QLineEdit>(dialog, "txtDuration"), duration);
         shoot(QStringLiteral("issue-action"));
         control<QPushButton>(dialog, "OKButton")->click();
     });
     control<QPushButton>(form, "cmdAdd")->click();
     m_visitor->check();
-    need(control<QLabel>(form, "lblTotalDuration")->text().endsWith(QLatin1String("1.25")),
+    need(control<QLabel>(form, "lblTotalDuration")->text().endsWith(duration),
          QStringLiteral("the action is not in the list"));
     shoot(QStringLiteral("issue-actions"));
 }

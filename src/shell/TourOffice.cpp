@@ -127,7 +127,7 @@ void Tour::purgeIssues()
     auto *next = control<QPushButton>(wizard, "cmdNext");
     shoot(QStringLiteral("purge-backup"));
     next->click();
-    typeInto(control<QLineEdit>(wizard, "txtDateSubmit"), QStringLiteral("12/31/2001"));
+    typeInto(control<QLineEdit>(wizard, "txtDateSubmit"), QStringLiteral("2001-12-31"));
     cboSelectAtID(control<QComboBox>(wizard, "cboStatus"), closedStatus);
     shoot(QStringLiteral("purge-criteria"));
     next->click();

@@ -8,10 +8,18 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-TEST(Tour, GoesThroughTheProgramAndSavesPictures)
+class Tour : public ::testing::TestWithParam<const char *>
+{
+};
+
+TEST_P(Tour, GoesThroughTheProgramAndSavesPictures)
 {
     const QTemporaryDir folder;
     QProcess tour;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("LC_ALL", GetParam());
+    environment.insert("LANGUAGE", GetParam());
+    tour.setProcessEnvironment(environment);
     tour.setProcessChannelMode(QProcess::MergedChannels);
     tour.start(QStringLiteral(NORVANE_BINARY_DIR "/bin/norvane"),
                {"--tour", folder.filePath("pictures")});
@@ -27,7 +35,11 @@ TEST(Tour, GoesThroughTheProgramAndSavesPictures)
         EXPECT_EQ(QImage(pictures.filePath(file)).size(), QSize(1280, 800)) << qPrintable(file);
 }
 
-TEST(Tour, FailsWhenItsDatabaseCannotBeMade)
+// The second writes numbers and dates in another way.
+INSTANTIATE_TEST_SUITE_P(InLanguages, Tour, ::testing::Values("en_US.UTF-8", "de_DE.UTF-8"),
+                         [](const auto &language) { return std::string(language.param, 2); });
+
+TEST(TourProblems, FailsWhenItsDatabaseCannotBeMade)
 {
     const QTemporaryDir folder;
     QFile inTheWay(folder.filePath("nvnuser.dbf"));
