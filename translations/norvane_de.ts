@@ -1657,6 +1657,14 @@ Please ask your administrator to connect this network directory with working loc
 
 Bitten Sie Ihre Systemverwaltung, dieses Netzwerkverzeichnis an jedem Arbeitsplatz mit funktionierenden Sperren zu verbinden (ohne Optionen wie nolock, local_lock oder nobrl). Öffnen Sie die Datenbank danach erneut.</translation>
     </message>
+    <message>
+        <source>administrator</source>
+        <translation>Administrator</translation>
+    </message>
+    <message>
+        <source>user</source>
+        <translation>Benutzer</translation>
+    </message>
 </context>
 <context>
     <name>clsDBBulk</name>

@@ -1621,6 +1621,14 @@ Please ask your administrator for the right to change the files in the data fold
 Please ask your administrator to connect this network directory with working locks at every workstation (without options like nolock, local_lock or nobrl). Then open the database again.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>administrator</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>user</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>clsDBBulk</name>

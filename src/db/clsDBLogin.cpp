@@ -156,8 +156,7 @@ QString clsDB::GetUsername2(qint32 id, Handle table)
 
 QString clsDB::GetUserTypeStr(const QString &code)
 {
-    return code.startsWith(QLatin1Char(AdminCode)) ? QStringLiteral("administrator")
-                                                   : QStringLiteral("user");
+    return code.startsWith(QLatin1Char(AdminCode)) ? Words::tr("administrator") : Words::tr("user");
 }
 
 QString clsDB::GetDefaultPermissionsStr()
