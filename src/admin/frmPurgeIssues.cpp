@@ -6,6 +6,7 @@
 #include "common/base/HelpTopics.h"
 #include "common/base/Host.h"
 #include "common/form/ListSinks.h"
+#include "common/ui/BusyWindow.h"
 #include "common/ui/Controls.h"
 #include "common/ui/Help.h"
 #include "common/ui/Icons.h"
@@ -198,7 +199,7 @@ void frmPurgeIssues::LoadLV()
 
 void frmPurgeIssues::LoadIssues(const TableUse &issues)
 {
-    const FormPause pause(this);
+    const BusyWindow oneAtATime(this);
     const QByteArray cutOff = clsSystem::CBDateFormat(ui->txtDateSubmit->text()).toLatin1();
     WaitDlg wait;
     clsSystem::WaitDlgShow(wait, windowTitle(),
@@ -261,7 +262,7 @@ void frmPurgeIssues::DeleteIssues()
         ids.append(LvKeyId(ui->lv->itemKey(row)));
     PurgeResult result;
     {
-        const FormPause pause(this);
+        const BusyWindow oneAtATime(this);
         WaitDlg wait;
         clsSystem::WaitDlgShow(wait, tr("Deleting Issues"), tr("Please wait..."), true, false);
         result = IssuePurge(gDB).DeleteIssues(ids, [&wait](qint32 done, qint32 all) {

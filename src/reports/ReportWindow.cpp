@@ -4,6 +4,7 @@
 #include "common/base/HelpTopics.h"
 #include "common/base/Host.h"
 #include "common/base/Hourglass.h"
+#include "common/ui/BusyWindow.h"
 #include "common/ui/Controls.h"
 #include "common/ui/GridFind.h"
 #include "common/ui/GridSaving.h"
@@ -129,7 +130,7 @@ void ReportWindow::DisplayReportData(std::vector<ReportTable::Column> columns, c
 
 std::optional<qint32> ReportWindow::DisplayRowData(ReportTable &table, const Walk &walk)
 {
-    const FormPause pause(this);
+    const BusyWindow oneAtATime(this);
     WaitDlg wait;
     gSys.WaitDlgShow(wait, tr("Preparing Report"), tr("Please wait..."), false, true);
     host().pumpEvents();

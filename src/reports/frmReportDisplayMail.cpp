@@ -5,6 +5,7 @@
 #include "common/base/clsSystem.h"
 #include "common/base/Failure.h"
 #include "common/base/Host.h"
+#include "common/ui/BusyWindow.h"
 #include "common/ui/Switchboard.h"
 #include "db/report/MailMerge.h"
 #include "db/TableUse.h"
@@ -73,7 +74,7 @@ void frmReportDisplay::email()
         return;
     const Addresses found =
         guarded("frmReportDisplay_cmdEmail_Click", Addresses(), [this]() -> Addresses {
-            const FormPause pause(this);
+            const BusyWindow oneAtATime(this);
             return addressesOf(report());
         });
     if (!found.complete)
@@ -123,7 +124,7 @@ void frmReportDisplay::mailMerge()
 
 bool frmReportDisplay::CreateMailMergeData(const QString &sFullPath)
 {
-    const FormPause pause(this);
+    const BusyWindow oneAtATime(this);
     RowProgress progress(tr("Mail Merge Data"),
                          tr("Creating Mail Merge Data file. Please wait..."));
     std::vector<qint32> custids;

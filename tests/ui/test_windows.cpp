@@ -86,12 +86,12 @@ TEST_F(WindowsTest, AWindowSwitchedOffStaysTheOneAtWork)
         EXPECT_EQ(m_area.activeSubWindow(), worker->parentWidget());
     };
     {
-        const FormPause pause(worker);
-        work();
-    }
-    EXPECT_EQ(QApplication::focusWidget(), worker->findChild<QLineEdit *>());
-    {
-        const BusyWindow busy(worker);
+        const BusyWindow busy(worker->findChild<QLineEdit *>());
+        {
+            const BusyWindow within(worker);
+        }
+        EXPECT_FALSE(worker->isEnabled());
+        EXPECT_FALSE(worker->close());
         work();
     }
     EXPECT_EQ(QApplication::focusWidget(), worker->findChild<QLineEdit *>());

@@ -4,6 +4,7 @@
 #include "common/base/Failure.h"
 #include "common/base/Host.h"
 #include "common/base/Hourglass.h"
+#include "common/ui/BusyWindow.h"
 #include "db/clsDB.h"
 #include "ui_AttachmentsCtl.h"
 
@@ -194,7 +195,7 @@ AttachmentsCtl::copyWithProgress(const QString &source, const QString &target,
 {
     FileCopyOutcome outcome;
     {
-        const FormPause pause(this);
+        const BusyWindow oneAtATime(this);
         const Hourglass busy;
         WaitDlg wait;
         if (QFileInfo(clsSystem::LocalPath(source)).size() >= kLargeFile)

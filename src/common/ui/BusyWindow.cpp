@@ -4,17 +4,37 @@
 #include "common/ui/Controls.h"
 
 #include <QEvent>
+#include <QMdiSubWindow>
 #include <QWidget>
 
-BusyWindow::BusyWindow(QWidget *window) : m_window(window), m_focus(window->focusWidget())
+#include <utility>
+
+namespace
 {
+
+QWidget *windowOf(QWidget *control)
+{
+    QWidget *above = control->parentWidget();
+    while (above != nullptr && !control->isWindow() && !qobject_cast<QMdiSubWindow *>(above))
+        control = std::exchange(above, above->parentWidget());
+    return control;
+}
+
+} // namespace
+
+BusyWindow::BusyWindow(QWidget *control)
+{
+    QWidget *window = windowOf(control);
+    m_window = window;
+    m_focus = window->focusWidget();
+    m_wasOn = window->isEnabled();
     window->installEventFilter(this);
     switchOff(window);
 }
 
 BusyWindow::~BusyWindow()
 {
-    if (!m_window)
+    if (!m_window || !m_wasOn)
         return;
     m_window->setEnabled(true);
     if (m_focus)

@@ -1,5 +1,5 @@
-// While one lives, the window takes no input and cannot be closed: for work that lets events
-// through so that the progress window over it can be cancelled.
+// While one lives, the window that the control is on, or is itself, takes no input and refuses to
+// close: for work that lets events through so that the progress window over it can be cancelled.
 #pragma once
 
 #include "common/base/clsSystem.h"
@@ -13,7 +13,7 @@ class BusyWindow : public QObject
 {
 public:
     // The progress window must be made after it: windows that are there already are switched off.
-    explicit BusyWindow(QWidget *window);
+    explicit BusyWindow(QWidget *control);
     ~BusyWindow() override;
     Q_DISABLE_COPY_MOVE(BusyWindow)
 
@@ -22,6 +22,7 @@ public:
 private:
     QPointer<QWidget> m_window;
     QPointer<QWidget> m_focus;
+    bool m_wasOn = true; // false within another one
 };
 
 // For the steps of such work: moves the bar and lets events through; false once Cancel was pressed.

@@ -1,7 +1,6 @@
 #include "common/ui/FormWindow.h"
 
 #include "common/base/Prompts.h"
-#include "common/ui/Controls.h"
 
 #include <QKeyEvent>
 #include <QMdiArea>
@@ -97,10 +96,6 @@ QString FormWindow::formName() const
 // record may be opened again in between. One that was only hidden comes back when it is shown.
 bool FormWindow::event(QEvent *event)
 {
-    if (event->type() == QEvent::Close && m_pauses > 0) {
-        event->ignore();
-        return true;
-    }
     const bool done = QWidget::event(event);
     if (event->type() == QEvent::Close && event->isAccepted()) {
         registry().removeAll(this);
@@ -119,26 +114,6 @@ void FormWindow::keyPressEvent(QKeyEvent *event)
         button->click(); // does nothing while it is disabled
     else
         QWidget::keyPressEvent(event);
-}
-
-FormPause::FormPause(QWidget *control)
-{
-    for (QWidget *at = control; at != nullptr && m_form == nullptr; at = at->parentWidget())
-        m_form = qobject_cast<FormWindow *>(at);
-    if (m_form == nullptr)
-        return;
-    m_focus = m_form->focusWidget();
-    if (++m_form->m_pauses == 1)
-        switchOff(m_form);
-}
-
-FormPause::~FormPause()
-{
-    if (m_form == nullptr || --m_form->m_pauses > 0)
-        return;
-    m_form->setEnabled(true);
-    if (m_focus)
-        m_focus->setFocus();
 }
 
 const QList<FormWindow *> &openForms()

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <QList>
-#include <QPointer>
 #include <QString>
 #include <QWidget>
 
@@ -27,25 +26,8 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
-    friend class FormPause;
     QString m_tag;
     int m_helpTopic = 0;
-    int m_pauses = 0;
-};
-
-// While one lives, the window that the control is on takes no input and refuses to close: window
-// events run, and what is under way must not be disturbed by them.
-class FormPause
-{
-public:
-    explicit FormPause(QWidget *control);
-    ~FormPause();
-    FormPause(const FormPause &) = delete;
-    FormPause &operator=(const FormPause &) = delete;
-
-private:
-    FormWindow *m_form = nullptr; // null: the control is on none of ours
-    QPointer<QWidget> m_focus;
 };
 
 // All open windows of ours, oldest first.
