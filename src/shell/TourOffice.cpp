@@ -2,6 +2,7 @@
 // maintenance, and the way to help.
 #include "admin/frmPurgeIssues.h"
 #include "common/base/AppInfo.h"
+#include "common/base/clsSystem.h"
 #include "common/ui/Controls.h"
 #include "common/ui/ListView.h"
 #include "db/clsDB.h"
@@ -127,7 +128,8 @@ void Tour::purgeIssues()
     auto *next = control<QPushButton>(wizard, "cmdNext");
     shoot(QStringLiteral("purge-backup"));
     next->click();
-    typeInto(control<QLineEdit>(wizard, "txtDateSubmit"), QStringLiteral("2001-12-31"));
+    typeInto(control<QLineEdit>(wizard, "txtDateSubmit"),
+             clsSystem::DBDateToDislayDate(QStringLiteral("20011231")));
     cboSelectAtID(control<QComboBox>(wizard, "cboStatus"), closedStatus);
     shoot(QStringLiteral("purge-criteria"));
     next->click();

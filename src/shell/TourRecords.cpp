@@ -1,4 +1,5 @@
 // The steps of the tour on the records of a customer.
+#include "common/base/clsSystem.h"
 #include "common/ui/ListView.h"
 #include "db/AttachmentFolder.h"
 #include "db/clsDB.h"
@@ -26,7 +27,8 @@ void Tour::addSubscription()
     control<QComboBox>(form, "cboPS")->setCurrentText(QStringLiteral("Office Copier OC-45"));
     typeInto(control<QLineEdit>(form, "txtShortDesc"), QStringLiteral("In the packing room"));
     typeInto(control<QLineEdit>(form, "txtContractNumber"), QStringLiteral("OC45-2291"));
-    typeInto(control<QLineEdit>(form, "txtDateTerminated"), QStringLiteral("2029-12-31"));
+    typeInto(control<QLineEdit>(form, "txtDateTerminated"),
+             clsSystem::DBDateToDislayDate(QStringLiteral("20291231")));
     shoot(QStringLiteral("new-subscription"));
     control<QPushButton>(form, "cmdApply")->click();
     need(form->rowid() >= 1000 && !form->inEditMode(),
