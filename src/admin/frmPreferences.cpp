@@ -12,6 +12,7 @@
 
 #include <QPushButton>
 #include <QScopedValueRollback>
+#include <QScreen>
 
 namespace
 {
@@ -68,6 +69,7 @@ frmPreferences::frmPreferences(QWidget *parent)
 
     InitControls();
     LoadData();
+    resize(size().boundedTo(screen()->availableSize() * 9 / 10));
 }
 
 frmPreferences::~frmPreferences() = default;

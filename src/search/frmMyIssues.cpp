@@ -66,6 +66,7 @@ void frmMyIssues::Init()
     LoadData(false);
     connect(ui->cboAssignedTo, &QComboBox::currentIndexChanged, this, &frmMyIssues::filterChanged);
     connect(ui->cboStatus, &QComboBox::currentIndexChanged, this, &frmMyIssues::filterChanged);
+    ui->lv->setFocus();
 }
 
 // A status that is gone from the list leaves the filter to all of them.

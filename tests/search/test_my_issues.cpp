@@ -92,6 +92,7 @@ TEST_F(MyIssues, BeginsWithTheIssuesOfWhoeverIsLoggedIn)
     EXPECT_EQ(person.progress().back().message, "Displaying My Issues. Please wait...");
     EXPECT_EQ(list->helpTopic(), 1230);
     EXPECT_EQ(list->tagText(), "MYISSUES");
+    EXPECT_EQ(list->focusWidget(), lv); // Enter opens the issue
     clickButton(list.get(), "cmdProperties");
     EXPECT_EQ(board.calls().size(), 1);
     EXPECT_TRUE(board.calls()[0].startsWith("ShowIssue "));
