@@ -148,8 +148,10 @@ std::string takeId(Handle session, const std::string &path, int &id)
     if (table == 0)
         return "not opened: " + lastError(session).detail;
     std::string problem;
-    if (d4seek(table, "PEOPLE.DBF") != r4success)
-        problem = "counter row not found";
+    const Code sought = d4seek(table, "PEOPLE.DBF");
+    if (sought != r4success)
+        problem = "counter row not found: " + std::to_string(sought) + ' ' +
+                  lastError(session).detail;
     else if (d4lock(table, d4recNo(table)) != r4success)
         problem = "not locked: " + lastError(session).detail;
     else {
