@@ -198,7 +198,15 @@ public:
     {
         (void)SimFile::freshen(); // opening shows it as it is
     }
-    ~SimFile() override { dropLocks(); }
+    ~SimFile() override
+    {
+        dropLocks();
+        if (m_station.remote && !m_readOnly)
+            m_station.locksLost += static_cast<int>(
+                std::erase_if(m_content->locks, [this](const SimDisk::Lock &lock) {
+                    return lock.station == &m_station;
+                }));
+    }
 
     Result<std::size_t> read(std::uint64_t offset, ByteSpan into) override
     {
@@ -281,7 +289,7 @@ public:
                 return Error{ErrorKind::Locked, m_path, "locked by another", -1};
         }
         dropLock(offset);
-        m_content->locks.push_back({this, offset, length, mode});
+        m_content->locks.push_back({this, &m_station, offset, length, mode});
         return freshen();
     }
 

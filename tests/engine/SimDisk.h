@@ -22,6 +22,7 @@ class SimDisk
 public:
     struct Lock {
         const void *owner;
+        const void *station;
         std::uint64_t offset;
         std::uint64_t length;
         LockMode mode;
@@ -76,8 +77,10 @@ class SimStation final : public FileSystem
 public:
     explicit SimStation(SimDisk &disk) : m_disk(disk) {}
     // On a network folder: a file shows what others wrote only after a lock on it, freshen() and
-    // opening. Set before any file is opened.
+    // opening; one opened for writing shares the handle of others like it, whose locks go with its
+    // close. Set before any file is opened.
     bool remote = false;
+    int locksLost = 0; // in such a way
 
     // The n-th call from now on is the last that this station does not make; 0: lives on.
     void dieAt(int call);

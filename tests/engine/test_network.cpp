@@ -68,6 +68,7 @@ TEST(NetworkFolder, HostsThatKeepTheTableOpenSeeAndKeepEachOthersSaves)
             ASSERT_TRUE(dies && !done) << "round " << round;
             ASSERT_EQ(seen, in(people)) << "round " << round;
         }
+        ASSERT_EQ(one->session.station.locksLost, 0) << "round " << round;
         if (dies)
             one = std::make_unique<Host>(*disk);
         ASSERT_EQ(d4recCountDo(hosts[0]->open), d4recCountDo(hosts[1]->open)) << "round " << round;

@@ -338,12 +338,18 @@ Status TableJournal::checkpoint()
     return status;
 }
 
-// Each through an open file of its own, so that a failure is never asked for twice on one.
+// Each through an open file of its own, so that a failure is never asked for twice on one; not so
+// on SMB, where that file's close would take the locks with it (docs/locking.md, Network folders).
 Status TableJournal::syncAll()
 {
     for (File *file : m_files.files) {
         if (!file)
             continue;
+        if (file->onNetwork()) {
+            if (Status status = file->sync(); !status.ok())
+                return status;
+            continue;
+        }
         Result<std::unique_ptr<File>> own = m_system.open(file->path(), OpenMode::ReadWrite);
         if (!own.ok())
             return own.error();
