@@ -150,8 +150,8 @@ std::string takeId(Handle session, const std::string &path, int &id)
     std::string problem;
     const Code sought = d4seek(table, "PEOPLE.DBF");
     if (sought != r4success)
-        problem = "counter row not found: " + std::to_string(sought) + ' ' +
-                  lastError(session).detail;
+        problem =
+            "counter row not found: " + std::to_string(sought) + ' ' + lastError(session).detail;
     else if (d4lock(table, d4recNo(table)) != r4success)
         problem = "not locked: " + lastError(session).detail;
     else {

@@ -202,8 +202,8 @@ public:
     {
         dropLocks();
         if (m_station.remote && !m_readOnly)
-            m_station.locksLost += static_cast<int>(
-                std::erase_if(m_content->locks, [this](const SimDisk::Lock &lock) {
+            m_station.locksLost +=
+                static_cast<int>(std::erase_if(m_content->locks, [this](const SimDisk::Lock &lock) {
                     return lock.station == &m_station;
                 }));
     }

@@ -51,7 +51,7 @@ mount_both() { # KIND OPTIONS
     done
 }
 unmount_both() { for name in a b; do on $name umount -f /mnt/data || on $name umount -l /mnt/data; done; }
-# try NAME KIND OPTIONS TESTS ROUNDS
+# [second=a] try NAME KIND OPTIONS TESTS ROUNDS: with two hosts, or two stations of one
 try() {
     echo "== $1"
     rm -rf /srv/data/*
@@ -61,7 +61,7 @@ try() {
     echo "mounted: $shown"
     local out=/run/out
     if timeout 7000 "$BIN/engine_hosts" /mnt/data "$4" "$5" \
-        "nsenter -t ${process[a]} -n -u -m" "nsenter -t ${process[b]} -n -u -m" \
+        "nsenter -t ${process[a]} -n -u -m" "nsenter -t ${process[${second:-b}]} -n -u -m" \
         "ip link set servera down" "ip link set servera up" >$out; then
         echo "all tests of $1 held"
     else
@@ -150,6 +150,7 @@ for test in $TESTS; do
         try "SMB 3.1.1" smb "" numbers "$ROUNDS"
         try "SMB 3.1.1" smb "" walk,change,dead "$walks"
         ;;
+    smb-one) second=a try "SMB 3.1.1, one host" smb "" numbers,walk,change,dead "$walks" ;;
     nfs-link) try "NFS 4.2, softerr,timeo=50,retrans=1" nfs ",softerr,timeo=50,retrans=1" link 60 ;;
     smb-link) try "SMB 3.1.1, echo_interval=4" smb ",echo_interval=4" link 30 ;;
     esac

@@ -193,6 +193,7 @@ private:
     Status takeCommitLock(LockMode mode, const LockPatience &patience);
     bool nothingNew();
     Status settle(LockMode mode, const LockPatience &patience);
+    Status recoverAlone(const LockPatience &patience);
     Status freshen(LockMode mode);
     Status settleAlone(LockMode mode);
     Status settleAtOpen();

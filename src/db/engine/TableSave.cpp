@@ -17,6 +17,8 @@ using namespace std::chrono_literals;
 // Opening a table that has to be mended waits this long for those who use it.
 const LockPatience kMendPatience{100, 100ms, {}};
 
+constexpr int kMostRecoveries = 8; // for one lock: others may leave something again meanwhile
+
 } // namespace
 
 // ---- putting a save together
@@ -220,34 +222,38 @@ bool TableFiles::nothingNew()
 // Under the lock nobody is in the middle of a save, so what is unfinished belongs to the dead.
 Status TableFiles::settle(LockMode mode, const LockPatience &patience)
 {
-    const Result<TableJournal::Need> need = m_journal->look(readOnly());
-    if (!need.ok())
-        return need.error();
-    if (*need == TableJournal::Need::Nothing)
-        return {};
-    if (readOnly())
-        return m_copy ? Status() : Status(staleIndex());
-    if (mode == LockMode::Exclusive)
-        return recover();
-    bool exclusive = false;
-    Cleanup letGo([&] {
-        if (exclusive)
-            (void)lockFile().unlock(kLockByte, LockMode::Exclusive);
-    });
-    // The shared lock goes first: two who wait for each other's would wait for ever.
-    Status status = lockFile().unlock(kLockByte, LockMode::Shared);
-    if (status.ok())
-        status = takeCommitLock(LockMode::Exclusive, patience);
+    for (int recoveries = 0;; ++recoveries) {
+        const Result<TableJournal::Need> need = m_journal->look(readOnly());
+        if (!need.ok())
+            return need.error();
+        if (*need == TableJournal::Need::Nothing)
+            return {};
+        if (readOnly())
+            return m_copy ? Status() : Status(staleIndex());
+        if (mode == LockMode::Exclusive)
+            return recover();
+        if (recoveries == kMostRecoveries)
+            return Error{ErrorKind::Damaged, path(),
+                         "what stations left unfinished could not be finished"};
+        // The shared lock goes first: two who wait for each other's would wait for ever.
+        Status status = lockFile().unlock(kLockByte, LockMode::Shared);
+        if (status.ok())
+            status = recoverAlone(patience);
+        if (status.ok())
+            status = takeCommitLock(LockMode::Shared, patience);
+        if (!status.ok())
+            return status;
+    }
+}
+
+Status TableFiles::recoverAlone(const LockPatience &patience)
+{
+    Status status = takeCommitLock(LockMode::Exclusive, patience);
     if (!status.ok())
         return status;
-    exclusive = true;
     status = recover();
-    letGo.cancel();
-    const Status shared = lockFile().tryLock(kLockByte, LockMode::Shared);
     const Status released = lockFile().unlock(kLockByte, LockMode::Exclusive);
-    if (status.ok())
-        status = shared.ok() ? released : shared;
-    return status;
+    return status.ok() ? released : status;
 }
 
 // On a network folder the lock itself makes at most the bytes of its own file fresh.
@@ -277,12 +283,9 @@ Status TableFiles::settleAtOpen()
     // A save under way is finished by its own station, or by whoever takes the lock next.
     const LockPatience once{0, 0ms, {}};
     const bool urgent = *need == TableJournal::Need::Repair;
-    Status status = takeCommitLock(LockMode::Exclusive, urgent ? atMost(kMendPatience) : once);
-    if (!status.ok())
-        return !urgent && status.error().kind == ErrorKind::Locked ? Status() : status;
-    status = recover();
-    const Status released = lockFile().unlock(kLockByte, LockMode::Exclusive);
-    return status.ok() ? released : status;
+    Status status = recoverAlone(urgent ? atMost(kMendPatience) : once);
+    const bool inUse = !status.ok() && status.error().kind == ErrorKind::Locked;
+    return inUse && !urgent ? Status() : status;
 }
 
 // What looks unfinished may be a save under way; with the lock held it is not.
