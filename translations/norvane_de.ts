@@ -2669,6 +2669,14 @@ Möchten Sie den Kunden mit dem doppelten Wert in %2 trotzdem hinzufügen?</tran
         <source>%1 rows hold letters that cannot be stored; a ? stands for each.</source>
         <translation>%1 Zeilen enthalten Zeichen, die nicht gespeichert werden können; für jedes steht ein ?.</translation>
     </message>
+    <message>
+        <source>&amp;Larger View...</source>
+        <translation>&amp;Größere Ansicht...</translation>
+    </message>
+    <message>
+        <source>The rows in a window as large as the screen</source>
+        <translation>Die Zeilen in einem Fenster, so groß wie der Bildschirm</translation>
+    </message>
 </context>
 <context>
     <name>frmEditCategories</name>
@@ -2869,6 +2877,29 @@ Möchten Sie den Kunden mit dem doppelten Wert in %2 trotzdem hinzufügen?</tran
     <message>
         <source>Find in %1</source>
         <translation>Suchen in %1</translation>
+    </message>
+</context>
+<context>
+    <name>frmImportPreview</name>
+    <message>
+        <source>Import Data Preview</source>
+        <translation>Vorschau der Importdaten</translation>
+    </message>
+    <message>
+        <source>You are about to import the following data. Press Continue to proceed or press Cancel to quit...</source>
+        <translation>Die folgenden Daten werden importiert. Mit „Weiter“ fahren Sie fort, mit „Abbrechen“ beenden Sie den Vorgang...</translation>
+    </message>
+    <message>
+        <source>Rows of the file</source>
+        <translation>Zeilen der Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Continue</source>
+        <translation>&amp;Weiter</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>

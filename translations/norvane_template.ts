@@ -2626,6 +2626,14 @@ Do you want to add this customer with the duplicate %2 anyways?</source>
         <source>%1 rows hold letters that cannot be stored; a ? stands for each.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>&amp;Larger View...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The rows in a window as large as the screen</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>frmEditCategories</name>
@@ -2825,6 +2833,29 @@ Do you want to add this customer with the duplicate %2 anyways?</source>
     </message>
     <message>
         <source>Find in %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>frmImportPreview</name>
+    <message>
+        <source>Import Data Preview</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>You are about to import the following data. Press Continue to proceed or press Cancel to quit...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rows of the file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Continue</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

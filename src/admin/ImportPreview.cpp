@@ -186,11 +186,16 @@ void ImportLoadPreviewGrid(QTableView *grid, const QString &path, const clsImpor
     clearPreviewGrid(grid);
     auto *rows = new ImportPreview(path, columns, headings, grid);
     rows->load(rowCount);
+    showPreviewRows(grid, rows);
+    if (rows->rowCount() > 0)
+        grid->setCurrentIndex(rows->index(0, 0));
+}
+
+void showPreviewRows(QTableView *grid, QAbstractItemModel *rows)
+{
     grid->setModel(rows);
     nameCorner(grid);
     fitColumns(grid);
-    if (rows->rowCount() > 0)
-        grid->setCurrentIndex(rows->index(0, 0));
 }
 
 qint32 previewLostLetters(const QTableView *grid)

@@ -1,5 +1,6 @@
 #include "admin/frmDataImport.h"
 
+#include "admin/frmImportPreview.h"
 #include "admin/ImportPreview.h"
 #include "common/base/AppInfo.h"
 #include "common/base/clsSystem.h"
@@ -76,6 +77,7 @@ void frmDataImport::connectControls()
     onClick(ui->cmdNext, &frmDataImport::goNext);
     onClick(ui->cmdPrevious, &frmDataImport::goBack);
     onClick(ui->cmdBrowse, &frmDataImport::browse);
+    onClick(ui->cmdLargerView, &frmDataImport::showLargerView);
     connect(ui->CancelButton, &QPushButton::clicked, this, &QDialog::reject);
     connect(ui->grdImport, &QTableWidget::cellClicked, this, [this](int row, int column) {
         if (column == kHelpColumn)
@@ -148,6 +150,12 @@ void frmDataImport::browse()
     ui->txtFilename->setFocus();
 }
 
+void frmDataImport::showLargerView()
+{
+    if (PreviewData(*ui->grdPreview, this))
+        ImportData();
+}
+
 void frmDataImport::showFormatHelp(int row)
 {
     if (row >= 0 && row < m_targets.size())
@@ -209,6 +217,7 @@ void frmDataImport::ImportData()
     }
     ui->cmdNext->setEnabled(false);
     ui->cmdPrevious->setEnabled(false);
+    ui->cmdLargerView->setEnabled(false);
     ui->lblImportNow->hide();
     ui->CancelButton->setText(tr("&Finish"));
     ui->CancelButton->setFocus();

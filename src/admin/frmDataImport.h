@@ -36,6 +36,7 @@ private:
     void goNext();
     void goBack();
     void browse();
+    void showLargerView();
     void showFormatHelp(int row);
     bool Validate();
     bool ValidateData();

@@ -62,6 +62,11 @@ void Tour::importSpreadsheet()
         shoot(QStringLiteral("import-file"));
         next->click();
         shoot(QStringLiteral("import-rows"));
+        m_visitor->expect(QStringLiteral("frmImportPreview"), [this](QWidget *rows) {
+            shoot(QStringLiteral("import-larger"));
+            control<QPushButton>(rows, "cmdCancel")->click();
+        });
+        control<QPushButton>(wizard, "cmdLargerView")->click();
         m_visitor->expect(QStringLiteral("QMessageBox"), [this](QWidget *told) {
             shoot(QStringLiteral("import-done"));
             static_cast<QDialog *>(told)->accept();

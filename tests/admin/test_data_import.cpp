@@ -289,6 +289,31 @@ TEST_F(DataImport, AFileCutOffDuringTheImportKeepsWhatWasRead)
     EXPECT_GT(gDB.CategoryExists("Status", 101), 0);
 }
 
+TEST_F(DataImport, TheRowsCanBeLookedAtInALargerWindowAndGoInFromThere)
+{
+    choose(customers, write("LASTNAME,COMPANY\nDoe,ACME\nRoe,\n"));
+    part<QTableView>("grdPreview")->selectRow(1);
+    const auto press = [](const char *button) {
+        return [button](QWidget *window) {
+            EXPECT_EQ(window->objectName(), "frmImportPreview");
+            const auto *grid = window->findChild<QTableView *>("grdPreview");
+            EXPECT_EQ(grid->model()->index(0, 1).data().toString(), "ACME");
+            EXPECT_EQ(grid->currentIndex().row(), 1);
+            clickButton(window, QLatin1String(button));
+        };
+    };
+    DialogDriver cancelled(press("cmdCancel"));
+    part<QPushButton>("cmdLargerView")->click();
+    EXPECT_EQ(previewCell(0, 1), "ACME") << "the wizard keeps the rows";
+    EXPECT_EQ(stored(gDB.CustomerTable()), 0);
+
+    person.expect("Imported 2 Records!");
+    DialogDriver continued(press("cmdContinue"));
+    part<QPushButton>("cmdLargerView")->click();
+    EXPECT_EQ(stored(gDB.CustomerTable()), 2);
+    EXPECT_FALSE(enabled("cmdLargerView")) << "they would go in twice";
+}
+
 TEST_F(DataImport, LettersThatCannotBeStoredAreSeenBeforehand)
 {
     const QByteArray accents = QString("o\u0308 \u20AC?").toUtf8();

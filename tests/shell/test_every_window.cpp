@@ -6,6 +6,7 @@
 #include "admin/frmDataImport.h"
 #include "admin/frmDBMaint.h"
 #include "admin/frmEditCategories.h"
+#include "admin/frmImportPreview.h"
 #include "admin/frmPreferences.h"
 #include "admin/frmPurgeIssues.h"
 #include "admin/frmUser.h"
@@ -240,6 +241,7 @@ TEST_F(MainWindow, EveryWindowCanBeReadAloudAndHasKeysOfOneMeaning)
              return form;
          }},
         {"frmDataImport", plain<frmDataImport>()},
+        {"frmImportPreview", plain<frmImportPreview>()},
         {"frmDBMaint", plain<frmDBMaint>()},
         {"frmLogin", plain<frmLogin>()},
         {"frmIssueList", plain<frmIssueList>()},
