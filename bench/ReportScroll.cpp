@@ -83,7 +83,8 @@ int main(int argc, char *argv[])
     const QApplication application(argc, argv);
     installGuiDoors(nullptr);
     const QString folder = QApplication::arguments().value(1);
-    if (!gDB.OpenUnattended(folder, QStringLiteral("SYSOP"), QStringLiteral("sysop"))) {
+    if (folder.isEmpty() ||
+        !gDB.OpenUnattended(folder, QStringLiteral("SYSOP"), QStringLiteral("sysop"))) {
         std::fprintf(stderr, "norvane_bench_scroll FOLDER: the folder cannot be opened\n");
         return 1;
     }
