@@ -98,7 +98,7 @@ nfs_server() {
     mount -t rpc_pipefs rpc /var/lib/nfs/rpc_pipefs
     exportfs -o rw,no_root_squash,fsid=0,insecure,no_subtree_check '*:/srv/data'
     rpc.mountd --no-nfs-version 3 --no-udp
-    # A client notices a cut one lease and twice timeo later, and its locks go after one lease.
+    # A client notices a cut about one lease later, and its locks go after one lease.
     echo 20 >/proc/fs/nfsd/nfsv4leasetime
     echo 20 >/proc/fs/nfsd/nfsv4gracetime
     rpc.nfsd -N 3 4
@@ -151,7 +151,7 @@ for test in $TESTS; do
         try "SMB 3.1.1" smb "" walk,change,dead "$walks"
         ;;
     smb-one) second=a try "SMB 3.1.1, one host" smb "" numbers,walk,change,dead "$walks" ;;
-    nfs-link) try "NFS 4.2, softerr,timeo=50,retrans=1" nfs ",softerr,timeo=50,retrans=1" link 60 ;;
+    nfs-link) try "NFS 4.2, soft,timeo=40,retrans=1" nfs ",soft,timeo=40,retrans=1" link 30 ;;
     smb-link) try "SMB 3.1.1, echo_interval=4" smb ",echo_interval=4" link 30 ;;
     esac
 done
