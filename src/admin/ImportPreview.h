@@ -60,7 +60,7 @@ private:
 // Fills the grid, which owns the rows until clearPreviewGrid.
 void ImportLoadPreviewGrid(QTableView *grid, const QString &path, const clsImportColDefs &columns,
                            const QStringList &headings, qint32 rowCount);
-// The same rows in another grid, which does not own them.
+// Rows that the grid does not come to own: those of another one.
 void showPreviewRows(QTableView *grid, QAbstractItemModel *rows);
 qint32 previewLostLetters(const QTableView *grid);
 void clearPreviewGrid(QTableView *grid);

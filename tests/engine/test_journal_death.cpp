@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <new>
 #include <tuple>
 
 using namespace norvane::engine;
@@ -343,6 +344,36 @@ TEST(JournalDeathOfAnother, InTheMiddleOfOurSaveAThirdStationFinishesTheirs)
         whole += found;
     }
     EXPECT_GT(whole, 100);
+}
+
+// Who looks a row up finishes the save of the dead first; no lock stays behind when that breaks
+// off.
+TEST(JournalDeathOfAnother, MemoryThatRunsOutInTheRecoveryLeavesNobodyLockedOut)
+{
+    const Prepared ready = prepare({"", inserts(1, 8, "a text"), {}});
+    int brokenOff = 0;
+    for (int death = 1; death <= 60; ++death) {
+        for (int call = 1; call <= 40; ++call) {
+            const std::unique_ptr<SimDisk> disk = ready.disk->copy();
+            SimSession session(*disk);
+            const Handle table = d4open(session, kPeoplePath);
+            ASSERT_EQ(findPerson(table, 1), r4success);
+            SimSession dying(*disk);
+            dying.station.dieAt(death);
+            (void)dying.perform(insertOf(20));
+            bool thrown = false;
+            session.station.beforeCall(call, [&thrown] {
+                thrown = true;
+                throw std::bad_alloc();
+            });
+            brokenOff += findPerson(table, 2) != r4success && thrown;
+            SimSession next(*disk);
+            code4lockAttempts(next, 0);
+            ASSERT_TRUE(next.perform(insertOf(30)))
+                << lastError(next).detail << ", death at " << death << ", call " << call;
+        }
+    }
+    EXPECT_GT(brokenOff, 100);
 }
 
 const auto kSettings = testing::Values("full", "process");

@@ -339,7 +339,7 @@ Status TableJournal::checkpoint()
 }
 
 // Each through an open file of its own, so that a failure is never asked for twice on one; not so
-// on SMB, where that file's close would take the locks with it (docs/locking.md, Network folders).
+// on a network folder: on SMB that file's close would take the locks with it (docs/locking.md).
 Status TableJournal::syncAll()
 {
     for (File *file : m_files.files) {

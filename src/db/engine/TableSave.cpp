@@ -251,7 +251,9 @@ Status TableFiles::recoverAlone(const LockPatience &patience)
     Status status = takeCommitLock(LockMode::Exclusive, patience);
     if (!status.ok())
         return status;
+    Cleanup letGo([this] { (void)lockFile().unlock(kLockByte, LockMode::Exclusive); });
     status = recover();
+    letGo.cancel();
     const Status released = lockFile().unlock(kLockByte, LockMode::Exclusive);
     return status.ok() ? released : status;
 }
