@@ -1,5 +1,5 @@
-// The rows that the import wizard is about to bring in, in a window as large as the screen allows: a
-// customer has more columns than the wizard's page can show. Modal.
+// The rows that the import wizard is about to bring in, in a window as large as the screen allows:
+// a customer has more columns than the wizard's page can show. Modal.
 #pragma once
 
 #include <QDialog>
