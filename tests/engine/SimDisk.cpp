@@ -1,6 +1,7 @@
 #include "engine/SimDisk.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace enginetest
 {
@@ -196,10 +197,13 @@ public:
           m_content(std::move(content)),
           m_readOnly(readOnly)
     {
+        m_station.m_open.push_back(this);
         (void)SimFile::freshen(); // opening shows it as it is
     }
     ~SimFile() override
     {
+        push();
+        std::erase(m_station.m_open, this);
         dropLocks();
         if (m_station.remote && !m_readOnly)
             m_station.locksLost +=
@@ -232,7 +236,8 @@ public:
         const std::uint64_t half = (offset + bytes.size() / 2) / kSectorLength * kSectorLength;
         std::size_t length = status.ok() ? bytes.size() : half > offset ? half - offset : 0;
         const std::uint64_t fits = largestSize();
-        if (status.ok() && offset + length > std::max<std::uint64_t>(fits, sizeNow())) {
+        const bool crowded = offset + length > std::max<std::uint64_t>(fits, sizeNow());
+        if (status.ok() && crowded && !m_station.remote) {
             length = fits > offset ? std::min<std::size_t>(length, fits - offset) : 0;
             status = Error{ErrorKind::NoSpace, m_path, "the disk is full"};
         }
@@ -252,6 +257,7 @@ public:
     bool onNetwork() override { return m_station.remote; }
     Status freshen() override
     {
+        push();
         if (m_station.remote)
             m_seen = m_content->bytes;
         return {};
@@ -265,16 +271,21 @@ public:
             return status;
         if (size > sizeNow() && size > largestSize())
             return Error{ErrorKind::NoSpace, m_path, "the disk is full"};
+        push();
         change({SimDisk::Change::Kind::Resize, m_content->file, size});
+        push();
         return {};
     }
 
     Status sync() override
     {
-        if (Status status = called(true); !status.ok())
+        if (Status status = called(true); !status.ok()) {
+            m_waiting.clear();
             return status;
+        }
+        push();
         m_station.record({SimDisk::Change::Kind::Sync, m_content->file});
-        return {};
+        return std::exchange(m_lost, {});
     }
 
     Status tryLock(std::uint64_t offset, std::uint64_t length, LockMode mode) override
@@ -295,20 +306,36 @@ public:
 
     Status unlock(std::uint64_t offset, std::uint64_t) override
     {
+        Status synced = m_waiting.empty() ? Status() : sync();
         dropLock(offset); // the system gives them back in any case
-        return called(false);
+        Status status = called(false);
+        return synced.ok() ? status : synced;
     }
 
     const std::string &path() const override { return m_path; }
     bool readOnly() const override { return m_readOnly; }
 
+    // What waits in this host's memory goes to the server; the next sync tells of what found no
+    // room there.
+    void push()
+    {
+        for (SimDisk::Change &waiting : std::exchange(m_waiting, {})) {
+            const std::uint64_t end = waiting.offset + waiting.bytes.size();
+            if (end > std::max<std::uint64_t>(largestSize(), sizeNow()))
+                m_lost = Error{ErrorKind::NoSpace, m_path, "the disk is full"};
+            else
+                store(std::move(waiting));
+        }
+    }
+    void dropLocks()
+    {
+        std::erase_if(m_content->locks, [this](const auto &lock) { return lock.owner == this; });
+    }
+
 private:
     Status called(bool changes, bool *partial = nullptr)
     {
-        Status status = m_station.call(changes, partial);
-        if (m_station.dead())
-            dropLocks();
-        return status;
+        return m_station.call(changes, partial);
     }
     const std::vector<Byte> &shown() const { return m_station.remote ? m_seen : m_content->bytes; }
     std::uint64_t sizeNow() const { return m_content->bytes.size(); }
@@ -321,15 +348,18 @@ private:
     }
     void change(SimDisk::Change change)
     {
+        if (!m_station.remote) {
+            store(std::move(change));
+            return;
+        }
+        perform(change, m_seen);
+        m_waiting.push_back(std::move(change));
+    }
+    void store(SimDisk::Change change)
+    {
         perform(change, m_content->bytes);
-        if (m_station.remote)
-            perform(change, m_seen);
         m_station.m_disk.most = std::max(m_station.m_disk.most, m_station.m_disk.used());
         m_station.record(std::move(change));
-    }
-    void dropLocks()
-    {
-        std::erase_if(m_content->locks, [this](const auto &lock) { return lock.owner == this; });
     }
     void dropLock(std::uint64_t offset)
     {
@@ -341,7 +371,9 @@ private:
     SimStation &m_station;
     std::string m_path;
     std::shared_ptr<SimDisk::Content> m_content;
-    std::vector<Byte> m_seen; // remote: what this open file shows
+    std::vector<Byte> m_seen;               // remote: what this open file shows
+    std::vector<SimDisk::Change> m_waiting; // remote: not yet on the server
+    Status m_lost;                          // since the last sync
     bool m_readOnly;
 };
 
@@ -368,13 +400,23 @@ void SimStation::mend()
     m_failAt = 0;
 }
 
+// As the system ends a process: it closes all files, and then the locks go.
+void SimStation::die()
+{
+    m_dead = true;
+    for (SimFile *file : m_open)
+        file->push();
+    for (SimFile *file : m_open)
+        file->dropLocks();
+}
+
 Status SimStation::call(bool changes, bool *partial)
 {
     ++m_calls;
     if (const auto found = m_others.find(m_calls); found != m_others.end())
         found->second();
-    if (m_dieAt != 0 && m_calls >= m_dieAt)
-        m_dead = true;
+    if (m_dieAt != 0 && m_calls >= m_dieAt && !m_dead)
+        die();
     if (m_dead)
         return Error{ErrorKind::Gone, {}, "the station died"};
     if (m_failAt == 0 || m_calls < m_failAt || (m_calls > m_failAt && !m_forEver))

@@ -71,14 +71,17 @@ private:
     static std::uint64_t newFile();
 };
 
+class SimFile;
+
 // The files as one station sees them.
 class SimStation final : public FileSystem
 {
 public:
     explicit SimStation(SimDisk &disk) : m_disk(disk) {}
     // On a network folder: a file shows what others wrote only after a lock on it, freshen() and
-    // opening; one opened for writing shares the handle of others like it, whose locks go with its
-    // close. Set before any file is opened.
+    // opening, and what is written waits here until it is synced, unlocked or closed, so that a
+    // full disk shows at the next sync; one opened for writing shares the handle of others like
+    // it, whose locks go with its close. Set before any file is opened.
     bool remote = false;
     int locksLost = 0; // in such a way
 
@@ -105,6 +108,7 @@ private:
     friend class SimFile;
     // Counts a call; an error when it is not to happen. `partial`: part of it happens all the same.
     Status call(bool changes, bool *partial = nullptr);
+    void die();
     void record(SimDisk::Change change);
 
     SimDisk &m_disk;
@@ -115,6 +119,7 @@ private:
     bool m_forEver = false;
     bool m_failed = false;
     bool m_dead = false;
+    std::vector<SimFile *> m_open;
     std::map<int, std::function<void()>> m_others;
 };
 

@@ -21,6 +21,7 @@ struct Filling {
     bool alone = false;  // past the journal
     bool journal = true; // there is one already
     bool reindex = false;
+    bool remote = false;
 };
 
 std::vector<Save> series(Save::Kind kind, int first, int last)
@@ -34,6 +35,12 @@ std::vector<Save> series(Save::Kind kind, int first, int last)
         saves.push_back(save);
     }
     return saves;
+}
+
+Filling remote(Filling filling)
+{
+    filling.remote = true;
+    return filling;
 }
 
 class DiskFull : public testing::TestWithParam<Filling>
@@ -58,6 +65,7 @@ protected:
     std::size_t work(SimDisk &disk, bool &whole) const
     {
         SimSession session(disk);
+        session.station.remote = GetParam().remote;
         code4accessMode(session, GetParam().alone ? 1 : 0);
         const std::size_t done = performSaves(session, kPeoplePath, GetParam().saves);
         whole = done == GetParam().saves.size();
@@ -117,7 +125,11 @@ INSTANTIATE_TEST_SUITE_P(
                     Filling{"JournalCreation", series(Save::Kind::Insert, 41, 42), false, false},
                     Filling{"Load", series(Save::Kind::Insert, 41, 100), true},
                     Filling{"LoadOverJournal", series(Save::Kind::Insert, 41, 60), true, false},
-                    Filling{"Reindex", {}, true, true, true}),
+                    Filling{"Reindex", {}, true, true, true},
+                    remote({"RemoteImport", series(Save::Kind::Insert, 41, 100)}),
+                    remote({"RemoteChanges", series(Save::Kind::Update, 5, 25)}),
+                    remote({"RemoteGroup", {groupOf(series(Save::Kind::Insert, 41, 100))}}),
+                    remote({"RemoteJournal", series(Save::Kind::Insert, 41, 42), false, false})),
     [](const auto &one) { return std::string(one.param.name); });
 
 } // namespace

@@ -14,6 +14,7 @@ struct Fault {
     const char *name;
     ErrorKind kind;
     bool forEver;
+    bool remote = false;
 };
 
 class JournalFaults : public testing::TestWithParam<Fault>
@@ -33,6 +34,7 @@ protected:
         for (int call = 1; call < 1000; ++call) {
             const std::unique_ptr<SimDisk> disk = start->copy();
             SimSession session(*disk);
+            session.station.remote = GetParam().remote;
             session.station.failAt(call, GetParam().kind, GetParam().forEver);
             const bool done = session.perform(save);
             const bool failed = session.station.failed();
@@ -107,7 +109,9 @@ INSTANTIATE_TEST_SUITE_P(Kinds, JournalFaults,
                                          Fault{"RefusedOnce", ErrorKind::ReadOnly, false},
                                          Fault{"RefusedForEver", ErrorKind::ReadOnly, true},
                                          Fault{"GoneOnce", ErrorKind::Gone, false},
-                                         Fault{"GoneForEver", ErrorKind::Gone, true}),
+                                         Fault{"GoneForEver", ErrorKind::Gone, true},
+                                         Fault{"RemoteIoOnce", ErrorKind::Io, false, true},
+                                         Fault{"RemoteGoneForEver", ErrorKind::Gone, true, true}),
                          [](const auto &one) { return std::string(one.param.name); });
 
 } // namespace

@@ -36,6 +36,7 @@ struct Host {
     Handle open = 0;
 };
 
+// Of each eight saves one meets its station's death and one a call that fails.
 TEST(NetworkFolder, HostsThatKeepTheTableOpenSeeAndKeepEachOthersSaves)
 {
     const std::unique_ptr<SimDisk> disk = diskWithPeople();
@@ -49,9 +50,14 @@ TEST(NetworkFolder, HostsThatKeepTheTableOpenSeeAndKeepEachOthersSaves)
         People after = people;
         note(after, save);
         const bool dies = round % 8 == 7;
+        const bool fails = round % 8 == 3;
+        const int call = static_cast<int>(random() % 60) + 1;
         if (dies)
-            one->session.station.dieAt(static_cast<int>(random() % 60) + 1);
+            one->session.station.dieAt(call);
+        else if (fails)
+            one->session.station.failAt(call, ErrorKind::Io, false);
         const bool done = one->session.perform(save);
+        one->session.station.mend();
         const std::vector<Save> saves = save.group.empty() ? std::vector{save} : save.group;
         const auto in = [&](const People &all) {
             std::vector<Person> found;
@@ -65,12 +71,14 @@ TEST(NetworkFolder, HostsThatKeepTheTableOpenSeeAndKeepEachOthersSaves)
         if (seen == in(after)) {
             people = after;
         } else {
-            ASSERT_TRUE(dies && !done) << "round " << round;
+            ASSERT_TRUE((dies || fails) && !done) << "round " << round;
             ASSERT_EQ(seen, in(people)) << "round " << round;
         }
         ASSERT_EQ(one->session.station.locksLost, 0) << "round " << round;
         if (dies)
             one = std::make_unique<Host>(*disk);
+        for (std::size_t i = 0; i < saves.size(); ++i)
+            ASSERT_EQ(one->shown(saves[i].id), seen[i]) << "round " << round;
         ASSERT_EQ(d4recCountDo(hosts[0]->open), d4recCountDo(hosts[1]->open)) << "round " << round;
     }
     ASSERT_EQ(compare(*disk, people), "");

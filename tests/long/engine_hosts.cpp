@@ -2,10 +2,11 @@
 //
 //   engine_hosts FOLDER TESTS ROUNDS [HOST_A HOST_B [CUT JOIN]]
 //
-// TESTS is a list of numbers, walk, change, dead and link with commas. HOST_A and HOST_B are words
-// put before the command of a station, such as "nsenter -t 123 -n -m"; without them both are
+// TESTS is a list of numbers, walk, change, dead, link and full with commas. HOST_A and HOST_B are
+// words put before the command of a station, such as "nsenter -t 123 -n -m"; without them both are
 // stations of this machine. CUT and JOIN are commands that take the first host off the network and
-// back. Each test prints a line; the exit status is 1 when one did not hold.
+// back; for `full` they fill the folder's disk but for a little and empty it again. Each test
+// prints a line; the exit status is 1 when one did not hold.
 #include "engine/Churn.h"
 #include "engine/Station.h"
 
@@ -276,6 +277,54 @@ bool linkDown(const Hosts &hosts)
     return sought && *sought != "0" && others && works && sound(*b, path);
 }
 
+// The server's disk gets full under the first host's saves: what was told as saved is there, for
+// the other host too, and with room the work goes on.
+bool full(const Hosts &hosts)
+{
+    const std::string path = hosts.path("full.dbf");
+    const auto a = hosts.station(hosts.first);
+    const auto b = hosts.station(hosts.second);
+    a->ask("make people " + path);
+    b->ask("open " + path);
+    b->ask("tag rowid");
+    std::set<int> told;
+    int lost = 0;
+    int there = 0; // of those that were refused
+    const auto save = [&](int id, int length) {
+        a->ask("open " + path);
+        a->ask("begin");
+        a->ask("set rowid " + std::to_string(id));
+        a->ask("setmemo notes " + std::string(static_cast<std::size_t>(length), 'n'));
+        const bool done = a->ask("append") == "0";
+        a->ask("unlock");
+        a->ask("close");
+        if (done)
+            told.insert(id);
+        return done;
+    };
+    const auto seen = [&](int id) { return b->ask("id " + std::to_string(id)) == "0"; };
+    int id = 0;
+    for (int round = 0; round < hosts.rounds; ++round) {
+        if (!save(++id, 100))
+            return wrong("with room nothing is saved");
+        if (std::system(hosts.cut.c_str()) != 0)
+            return wrong("the disk cannot be filled");
+        const int first = id;
+        while (save(++id, 50 + round * 311 % 3000) && id < first + 2000) {
+        }
+        for (int saved = first; saved < id; ++saved)
+            lost += !seen(saved);
+        if (std::system(hosts.join.c_str()) != 0)
+            return wrong("the disk cannot be emptied");
+        there += seen(id);
+    }
+    for (const int saved : told)
+        lost += !seen(saved);
+    std::cout << "full disk: " << hosts.rounds << " times, " << told.size() << " saves, " << lost
+              << " lost, " << there << " refused and there all the same" << std::endl;
+    return lost == 0 && sound(*b, path);
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -289,11 +338,9 @@ int main(int argc, char **argv)
     bool good = true;
     std::istringstream tests(word(2));
     for (std::string test; std::getline(tests, test, ',');) {
-        const std::map<std::string, bool (*)(const Hosts &)> all = {{"numbers", numbers},
-                                                                    {"walk", walk},
-                                                                    {"change", change},
-                                                                    {"dead", dead},
-                                                                    {"link", linkDown}};
+        const std::map<std::string, bool (*)(const Hosts &)> all = {
+            {"numbers", numbers}, {"walk", walk},     {"change", change},
+            {"dead", dead},       {"link", linkDown}, {"full", full}};
         const auto run = all.find(test);
         if (run == all.end())
             return 2;

@@ -3,7 +3,8 @@
 # files as its read-only root, a kernel NFS server and smbd in it, and two hosts with a network, a name
 # and a start mark of their own. Packages are unpacked, none is installed. Needs root and Debian's apt.
 #
-#   tests/long/network.sh BINDIR ROUNDS [TEST...]    tests: nfs smb smb-one nfs-link smb-link nobrl
+#   tests/long/network.sh BINDIR ROUNDS [TEST...]    tests: nfs smb smb-one nfs-full
+#       smb-full nfs-link smb-link nobrl
 #
 # Prints a line for each test; the exit status is 1 when one did not hold.
 set -euo pipefail
@@ -11,7 +12,7 @@ here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 bin=$(cd "$1" && pwd)
 rounds=$2
 shift 2
-tests=${*:-nfs smb smb-one nfs-link smb-link nobrl}
+tests=${*:-nfs smb smb-one nfs-full smb-full nfs-link smb-link nobrl}
 lab=$here/../../build/network
 mkdir -p "$lab"
 lab=$(cd "$lab" && pwd)

@@ -8,6 +8,7 @@ exec 2>&1
 mount -t proc proc /proc
 mount -t sysfs sys /sys
 for place in /run /var/lib /var/log /var/cache /mnt /srv /root; do mount -t tmpfs tmpfs $place; done
+mount -o remount,size=64m /srv
 mkdir -p /var/lib/nfs/{v4recovery,rpc_pipefs} /var/lib/samba/private /var/log/samba /var/cache/samba \
     /run/samba /run/lock /srv/data /mnt/data
 touch /var/lib/nfs/etab /var/lib/nfs/rmtab
@@ -51,7 +52,15 @@ mount_both() { # KIND OPTIONS
     done
 }
 unmount_both() { for name in a b; do on $name umount -f /mnt/data || on $name umount -l /mnt/data; done; }
-# [second=a] try NAME KIND OPTIONS TESTS ROUNDS: with two hosts, or two stations of one
+# Leaves a little room, each time another.
+cat >/run/fill <<'FILL'
+#!/bin/bash
+dd if=/dev/zero of=/srv/ballast bs=64k status=none 2>/dev/null
+truncate -s -$((RANDOM % 16 * 4))K /srv/ballast
+FILL
+chmod +x /run/fill
+# [second=a] [cut=COMMAND join=COMMAND] try NAME KIND OPTIONS TESTS ROUNDS: with two hosts, or two
+# stations of one
 try() {
     echo "== $1"
     rm -rf /srv/data/*
@@ -62,7 +71,7 @@ try() {
     local out=/run/out
     if timeout 7000 "$BIN/engine_hosts" /mnt/data "$4" "$5" \
         "nsenter -t ${process[a]} -n -u -m" "nsenter -t ${process[${second:-b}]} -n -u -m" \
-        "ip link set servera down" "ip link set servera up" >$out; then
+        "${cut:-ip link set servera down}" "${join:-ip link set servera up}" >$out; then
         echo "all tests of $1 held"
     else
         failed=1
@@ -135,6 +144,7 @@ case $TESTS in *nfs* | *nobrl*) nfs_server ;; esac
 case $TESTS in *smb* | *nobrl*) smb_server ;; esac
 
 walks=$((ROUNDS < 1000 ? ROUNDS : 1000))
+full=$((ROUNDS < 60 ? ROUNDS : 60))
 for test in $TESTS; do
     case $test in
     nfs)
@@ -151,6 +161,8 @@ for test in $TESTS; do
         try "SMB 3.1.1" smb "" walk,change,dead "$walks"
         ;;
     smb-one) second=a try "SMB 3.1.1, one host" smb "" numbers,walk,change,dead "$walks" ;;
+    nfs-full) cut=/run/fill join="rm /srv/ballast" try "NFS 4.2" nfs "" full "$full" ;;
+    smb-full) cut=/run/fill join="rm /srv/ballast" try "SMB 3.1.1" smb "" full "$full" ;;
     nfs-link) try "NFS 4.2, soft,timeo=40,retrans=1" nfs ",soft,timeo=40,retrans=1" link 30 ;;
     smb-link) try "SMB 3.1.1, echo_interval=4" smb ",echo_interval=4" link 30 ;;
     esac

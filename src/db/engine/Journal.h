@@ -80,7 +80,6 @@ public:
                                                std::uint64_t number);
     // After a checkpoint: gives back what very long records took.
     void shrink();
-    bool onNetwork() { return m_file && m_file->onNetwork(); }
 
 private:
     Status reopen();

@@ -209,18 +209,19 @@ Status TableJournal::commit(Pieces &pieces, Durability durability, bool &committ
         m_head.flags |= JournalHeader::kPromised;
     if (Status status = m_journal.write(m_head); !status.ok())
         return abandon(status, false);
-    const bool network = m_journal.onNetwork();
-    if (Status status = grow(pieces); !status.ok())
+    const bool network = onNetwork();
+    Status status = network ? growOnNetwork(pieces) : grow(pieces);
+    if (!status.ok())
         return abandon(status, false);
-    if (Status status = store(record, durability == Durability::Full || network); !status.ok())
+    if (status = store(record, durability == Durability::Full || network); !status.ok())
         return abandon(status, true);
     committed = true;
 
-    Status status = apply(pieces);
+    status = apply(pieces);
     if (!status.ok())
         status = apply(pieces);
     if (status.ok() && network)
-        status = syncAll();
+        status = syncOrDoubt();
     if (status.ok())
         finish(pieces, record.size(), network);
     return status;
@@ -244,6 +245,25 @@ Status TableJournal::grow(const Pieces &pieces)
     return {};
 }
 
+// A server may find that it has no room only when the bytes come to it, and what has come there
+// must be known as begun.
+Status TableJournal::growOnNetwork(const Pieces &pieces)
+{
+    std::array<bool, kTargets> grows{};
+    for (const Piece &piece : pieces)
+        grows[static_cast<std::size_t>(piece.target)] |= piece.fresh;
+    if (std::find(grows.begin(), grows.end(), true) == grows.end())
+        return {};
+    Status status = m_journal.sync();
+    if (status.ok())
+        status = grow(pieces);
+    for (std::size_t i = 0; i < kTargets && status.ok(); ++i) {
+        if (grows[i])
+            status = m_files.files[i]->sync();
+    }
+    return status;
+}
+
 Status TableJournal::store(const std::vector<Byte> &record, bool withSync)
 {
     if (Status status = m_journal.writeRecord(m_head.next, record); !status.ok())
@@ -258,7 +278,7 @@ Status TableJournal::abandon(Status failure, bool recordWritten)
     const bool wiped = !recordWritten || m_journal.wipeRecord(m_head.next).ok();
     if (wiped && takeBackGrowth().ok()) {
         m_head.begun = m_head.applied;
-        (void)m_journal.write(m_head);
+        (void)writeHead();
     }
     return failure;
 }
@@ -289,9 +309,7 @@ void TableJournal::finish(const Pieces &pieces, std::size_t length, bool durable
     m_head.applied = m_head.begun;
     m_head.next += length;
     // When this fails the save is done all the same, and found done by the next one.
-    (void)m_journal.write(m_head);
-    if (durable)
-        (void)m_journal.sync();
+    (void)writeHead();
 }
 
 Status TableJournal::newEpoch(bool withSync)
@@ -327,15 +345,29 @@ Status TableJournal::checkpoint()
     // Saves that were to survive a killed process only are in the files by now.
     constexpr std::uint32_t synced =
         JournalHeader::kPromised | JournalHeader::kBulk | JournalHeader::kForce;
-    if (!m_head.has(synced))
+    if (!m_head.has(synced) && !onNetwork())
         return newEpoch(false);
+    Status status = syncOrDoubt();
+    return status.ok() ? newEpoch(true) : status;
+}
+
+// The system may have dropped what it could not write: next time all on record is written again.
+Status TableJournal::syncOrDoubt()
+{
     Status status = syncAll();
-    if (status.ok())
-        return newEpoch(true);
-    // The system may have dropped what it could not write: next time all is written again.
-    m_head.flags |= JournalHeader::kForce;
-    (void)m_journal.write(m_head);
+    if (!status.ok()) {
+        m_head.flags |= JournalHeader::kForce;
+        (void)writeHead();
+    }
     return status;
+}
+
+// On a network folder it is not left to wait here: after the unlock it would be laid over another
+// host's.
+Status TableJournal::writeHead()
+{
+    Status status = m_journal.write(m_head);
+    return status.ok() && onNetwork() ? m_journal.sync() : status;
 }
 
 // Each through an open file of its own, so that a failure is never asked for twice on one; not so

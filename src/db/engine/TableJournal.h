@@ -93,11 +93,14 @@ private:
     Status captureBefore(Pieces &pieces) const;
     Status makeRoom(std::size_t length);
     Status grow(const Pieces &pieces);
+    Status growOnNetwork(const Pieces &pieces);
     Status store(const std::vector<Byte> &record, bool withSync);
     Status abandon(Status failure, bool recordWritten);
     Status apply(const Pieces &pieces);
     void finish(const Pieces &pieces, std::size_t length, bool durable);
     Status newEpoch(bool withSync);
+    Status syncOrDoubt();
+    Status writeHead();
 
     // TableRecovery.cpp
     bool restarted() const;
@@ -113,6 +116,7 @@ private:
     Result<std::uint32_t> counterInIndex() const;
     Result<bool> adoptDamaged();
     Status syncAll();
+    bool onNetwork() const { return m_files.at(Target::Table)->onNetwork(); }
     std::uint64_t endOfRows(std::uint32_t rows) const
     {
         return m_headerLength + std::uint64_t{rows} * m_recordLength;

@@ -119,8 +119,8 @@ Result<bool> TableJournal::recover()
         m_head.flags |= JournalHeader::kRebuild;
     if (restart || bulk || rebuild)
         status = checkpoint();
-    else
-        status = m_journal.write(m_head);
+    else if (status = onNetwork() ? syncAll() : Status(); status.ok())
+        status = writeHead();
     m_firstUse = false;
     if (!status.ok())
         return status.error();
@@ -378,7 +378,7 @@ Status TableJournal::setCount(std::uint32_t rows)
     if (Status status = syncAll(); !status.ok())
         return status;
     m_head.rows = rows;
-    return known ? m_journal.write(m_head) : Status();
+    return known ? writeHead() : Status();
 }
 
 TableJournal::Verdict TableJournal::verdict(std::uint32_t rows, std::uint32_t counter) const
