@@ -284,6 +284,7 @@ public:
             return status;
         }
         push();
+        m_unsynced = !m_lost.ok();
         m_station.record({SimDisk::Change::Kind::Sync, m_content->file});
         return std::exchange(m_lost, {});
     }
@@ -306,7 +307,7 @@ public:
 
     Status unlock(std::uint64_t offset, std::uint64_t) override
     {
-        Status synced = m_waiting.empty() ? Status() : sync();
+        Status synced = m_unsynced ? sync() : Status();
         dropLock(offset); // the system gives them back in any case
         Status status = called(false);
         return synced.ok() ? status : synced;
@@ -352,6 +353,7 @@ private:
             store(std::move(change));
             return;
         }
+        m_unsynced = true;
         perform(change, m_seen);
         m_waiting.push_back(std::move(change));
     }
@@ -373,7 +375,8 @@ private:
     std::shared_ptr<SimDisk::Content> m_content;
     std::vector<Byte> m_seen;               // remote: what this open file shows
     std::vector<SimDisk::Change> m_waiting; // remote: not yet on the server
-    Status m_lost;                          // since the last sync
+    bool m_unsynced = false;                // remote: written since the last sync
+    Status m_lost;                          // since then
     bool m_readOnly;
 };
 

@@ -280,6 +280,7 @@ Status TableJournal::abandon(Status failure, bool recordWritten)
         m_head.begun = m_head.applied;
         (void)writeHead();
     }
+    leaveNothingWaiting();
     return failure;
 }
 
@@ -370,25 +371,33 @@ Status TableJournal::writeHead()
     return status.ok() && onNetwork() ? m_journal.sync() : status;
 }
 
-// Each through an open file of its own, so that a failure is never asked for twice on one; not so
-// on a network folder: on SMB that file's close would take the locks with it (docs/locking.md).
 Status TableJournal::syncAll()
 {
+    Status status;
     for (File *file : m_files.files) {
-        if (!file)
-            continue;
-        if (file->onNetwork()) {
-            if (Status status = file->sync(); !status.ok())
-                return status;
-            continue;
-        }
-        Result<std::unique_ptr<File>> own = m_system.open(file->path(), OpenMode::ReadWrite);
-        if (!own.ok())
-            return own.error();
-        if (Status status = (*own)->sync(); !status.ok())
-            return status;
+        const Status synced = file ? syncOne(*file) : Status();
+        if (status.ok())
+            status = synced;
     }
-    return {};
+    return status;
+}
+
+// Through an open file of its own, so that a failure is never asked for twice on one; not so on a
+// network folder: on SMB that file's close would take the locks with it (docs/locking.md).
+Status TableJournal::syncOne(File &file)
+{
+    if (file.onNetwork())
+        return file.sync();
+    const Result<std::unique_ptr<File>> own = m_system.open(file.path(), OpenMode::ReadWrite);
+    return own.ok() ? (*own)->sync() : own.error();
+}
+
+// After a failure on a network folder: what this host wrote and has not sent yet would be laid over
+// another's bytes after the unlock.
+void TableJournal::leaveNothingWaiting()
+{
+    if (onNetwork())
+        (void)syncAll();
 }
 
 Status TableJournal::beginBulk()

@@ -115,7 +115,10 @@ private:
     Result<std::uint32_t> countInHeader() const;
     Result<std::uint32_t> counterInIndex() const;
     Result<bool> adoptDamaged();
+    Result<bool> finishOthers();
     Status syncAll();
+    Status syncOne(File &file);
+    void leaveNothingWaiting();
     bool onNetwork() const { return m_files.at(Target::Table)->onNetwork(); }
     std::uint64_t endOfRows(std::uint32_t rows) const
     {

@@ -94,6 +94,14 @@ Result<TableJournal::Need> TableJournal::lookForReading()
 
 Result<bool> TableJournal::recover()
 {
+    Result<bool> rebuild = finishOthers();
+    if (!rebuild.ok())
+        leaveNothingWaiting();
+    return rebuild;
+}
+
+Result<bool> TableJournal::finishOthers()
+{
     if (Status status = readHead(); !status.ok())
         return status.error();
     if (m_state == Journal::State::Missing)
