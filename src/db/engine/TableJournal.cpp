@@ -433,8 +433,10 @@ Status TableJournal::endBulk(bool complete)
     if (!m_inBulk)
         return {};
     m_inBulk = false; // with the mark left standing, whoever comes next mends the table
-    if (!complete)
+    if (!complete) {
+        leaveNothingWaiting();
         return {};
+    }
     if (Status status = syncAll(); !status.ok())
         return status;
     if (Status status = noteState(); !status.ok())
