@@ -214,7 +214,7 @@ public:
 
     Result<std::size_t> read(std::uint64_t offset, ByteSpan into) override
     {
-        if (Status status = called(false); !status.ok())
+        if (Status status = m_station.call(false); !status.ok())
             return status.error();
         const std::vector<Byte> &bytes = shown();
         if (offset >= bytes.size())
@@ -229,7 +229,7 @@ public:
         if (m_readOnly)
             return Error{ErrorKind::ReadOnly, m_path, "opened for reading only"};
         bool partial = false;
-        Status status = called(true, &partial);
+        Status status = m_station.call(true, &partial);
         if (!status.ok() && !partial)
             return status;
         // what a full disk still took: whole sectors
@@ -250,7 +250,7 @@ public:
 
     Result<std::uint64_t> size() override
     {
-        if (Status status = called(false); !status.ok())
+        if (Status status = m_station.call(false); !status.ok())
             return status.error();
         return std::uint64_t{shown().size()};
     }
@@ -267,7 +267,7 @@ public:
     {
         if (m_readOnly)
             return Error{ErrorKind::ReadOnly, m_path, "opened for reading only"};
-        if (Status status = called(true); !status.ok())
+        if (Status status = m_station.call(true); !status.ok())
             return status;
         if (size > sizeNow() && size > largestSize())
             return Error{ErrorKind::NoSpace, m_path, "the disk is full"};
@@ -279,7 +279,7 @@ public:
 
     Status sync() override
     {
-        if (Status status = called(true); !status.ok()) {
+        if (Status status = m_station.call(true); !status.ok()) {
             m_waiting.clear();
             return status;
         }
@@ -291,7 +291,7 @@ public:
 
     Status tryLock(std::uint64_t offset, std::uint64_t length, LockMode mode) override
     {
-        if (Status status = called(false); !status.ok())
+        if (Status status = m_station.call(false); !status.ok())
             return status;
         for (const SimDisk::Lock &lock : m_content->locks) {
             const bool apart =
@@ -309,7 +309,7 @@ public:
     {
         Status synced = m_unsynced ? sync() : Status();
         dropLock(offset); // the system gives them back in any case
-        Status status = called(false);
+        Status status = m_station.call(false);
         return synced.ok() ? status : synced;
     }
 
@@ -334,10 +334,6 @@ public:
     }
 
 private:
-    Status called(bool changes, bool *partial = nullptr)
-    {
-        return m_station.call(changes, partial);
-    }
     const std::vector<Byte> &shown() const { return m_station.remote ? m_seen : m_content->bytes; }
     std::uint64_t sizeNow() const { return m_content->bytes.size(); }
     // To which this file could grow.

@@ -78,6 +78,15 @@ bool sound(Station &station, const std::string &path)
     return found == "sound" || wrong(found);
 }
 
+// A new row of the open table, which stays locked; false when it is refused.
+bool append(Station &station, const std::vector<std::string> &fields)
+{
+    station.ask("begin");
+    for (const std::string &field : fields)
+        station.ask(field);
+    return station.ask("append") == "0";
+}
+
 // Each takes its numbers, opening and closing the counter table for each: all are different and the
 // counter has gone up by as many.
 bool numbers(const Hosts &hosts)
@@ -85,12 +94,10 @@ bool numbers(const Hosts &hosts)
     const auto a = hosts.station(hosts.first);
     const auto b = hosts.station(hosts.second);
     const std::string path = hosts.path("counter.dbf");
-    for (const char *command :
-         {"begin", "set tblname PEOPLE.DBF", "set lastid 1", "append", "unlock"}) {
-        if (command == std::string("begin"))
-            a->ask("make counter " + path), a->ask("open " + path);
-        a->ask(command);
-    }
+    a->ask("make counter " + path);
+    a->ask("open " + path);
+    append(*a, {"set tblname PEOPLE.DBF", "set lastid 1"});
+    a->ask("unlock");
     a->ask("close");
     const auto begun = Clock::now();
     for (Station *station : {a.get(), b.get()})
@@ -124,10 +131,8 @@ bool walk(const Hosts &hosts)
     for (Station *station : {a.get(), b.get()})
         station->ask("open " + path);
     for (int id = 1; id <= kFixed; ++id) {
-        a->ask("begin");
-        a->ask("set rowid " + std::to_string(id));
-        a->ask("set name " + fixedName(id));
-        if (a->ask("append") != "0" || a->ask("unlock") != "0")
+        if (!append(*a, {"set rowid " + std::to_string(id), "set name " + fixedName(id)}) ||
+            a->ask("unlock") != "0")
             return wrong("the first rows are not stored");
     }
     int stale = 0;
@@ -193,8 +198,7 @@ bool dead(const Hosts &hosts)
     int saved = 0;
     b->ask("make people " + path);
     b->ask("open " + path);
-    b->ask("begin");
-    b->ask("append");
+    append(*b, {});
     b->ask("unlock");
     for (int round = 0; round < 10; ++round) {
         const auto a = hosts.station(hosts.first);
@@ -240,9 +244,7 @@ bool linkDown(const Hosts &hosts)
         station->ask("tag rowid");
     }
     for (const char *id : {"1", "2"}) {
-        a->ask("begin");
-        a->ask(std::string("set rowid ") + id);
-        a->ask("append");
+        append(*a, {std::string("set rowid ") + id});
         a->ask("unlock");
     }
     if (a->ask("lock 1") != "0" || std::system(hosts.cut.c_str()) != 0)
@@ -292,10 +294,8 @@ bool full(const Hosts &hosts)
     int there = 0; // of those that were refused
     const auto save = [&](int id, int length) {
         a->ask("open " + path);
-        a->ask("begin");
-        a->ask("set rowid " + std::to_string(id));
-        a->ask("setmemo notes " + std::string(static_cast<std::size_t>(length), 'n'));
-        const bool done = a->ask("append") == "0";
+        const std::string text(static_cast<std::size_t>(length), 'n');
+        const bool done = append(*a, {"set rowid " + std::to_string(id), "setmemo notes " + text});
         a->ask("unlock");
         a->ask("close");
         if (done)

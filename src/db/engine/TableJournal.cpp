@@ -223,7 +223,7 @@ Status TableJournal::commit(Pieces &pieces, Durability durability, bool &committ
     if (status.ok() && network)
         status = syncOrDoubt();
     if (status.ok())
-        finish(pieces, record.size(), network);
+        finish(pieces, record.size());
     return status;
 }
 
@@ -296,7 +296,7 @@ Status TableJournal::apply(const Pieces &pieces)
     return {};
 }
 
-void TableJournal::finish(const Pieces &pieces, std::size_t length, bool durable)
+void TableJournal::finish(const Pieces &pieces, std::size_t length)
 {
     for (const Piece &piece : pieces) {
         if (piece.target == Target::Table && piece.offset == kCountPlace && piece.bytes.size() >= 7)
@@ -304,7 +304,7 @@ void TableJournal::finish(const Pieces &pieces, std::size_t length, bool durable
         if (piece.target == Target::Index && piece.offset == 0)
             m_head.counter = getBe32(&piece.bytes[kIndexCounter]);
     }
-    const bool allDurable = durable && (m_head.empty() || m_head.has(JournalHeader::kDurable));
+    const bool allDurable = onNetwork() && (m_head.empty() || m_head.has(JournalHeader::kDurable));
     m_head.flags &= ~JournalHeader::kDurable;
     m_head.flags |= allDurable ? JournalHeader::kDurable : 0;
     m_head.applied = m_head.begun;

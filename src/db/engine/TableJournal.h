@@ -97,7 +97,7 @@ private:
     Status store(const std::vector<Byte> &record, bool withSync);
     Status abandon(Status failure, bool recordWritten);
     Status apply(const Pieces &pieces);
-    void finish(const Pieces &pieces, std::size_t length, bool durable);
+    void finish(const Pieces &pieces, std::size_t length);
     Status newEpoch(bool withSync);
     Status syncOrDoubt();
     Status writeHead();
